@@ -1,0 +1,30 @@
+// The thread setting: the library's only mutable global.
+#include <omp.h>
+
+#include <atomic>
+
+#include "core/parallel.h"
+#include "zeli.h"
+
+namespace {
+
+std::atomic<int>& threadSetting() {
+    static std::atomic<int> setting{omp_get_num_procs() > 0 ? omp_get_num_procs() : 1};
+    return setting;
+}
+
+}  // namespace
+
+int ownGetNumThreads() { return threadSetting().load(std::memory_order_relaxed); }
+
+ZelStatus zelSetNumThreads(int n) {
+    if (n < 1) return zelStatusBadArgument;
+    threadSetting().store(n, std::memory_order_relaxed);
+    return zelStatusOk;
+}
+
+ZelStatus zelGetNumThreads(int* pNumThreads) {
+    if (pNumThreads == nullptr) return zelStatusNullPtr;
+    *pNumThreads = ownGetNumThreads();
+    return zelStatusOk;
+}

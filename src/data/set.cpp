@@ -1,0 +1,123 @@
+// Set: fill the ROI with a constant pixel value.
+//
+// The value is replicated into a pattern of whole pixels as long as
+// `channels` vectors, so every vector store begins on a pixel boundary;
+// AC4 stores are masked so the alpha channel is never written. Large fills
+// use non-temporal stores.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/set.cpp"
+#include <hwy/foreach_target.h>  // IWYU pragma: keep
+#include <hwy/highway.h>
+
+#include <hwy/cache_control.h>
+
+#include <cstdint>
+#include <cstring>
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Writes `pixels` pixels of C channels, of which the first `Written` take
+// value[0..Written-1] and the others keep their contents. With `stream` the
+// vector stores bypass the caches once the destination is vector-aligned
+// at a pixel boundary (an element-misaligned row takes ordinary stores).
+template <class T, int C, int Written>
+void FillRow(T* HWY_RESTRICT dst, int pixels, const T* HWY_RESTRICT value, bool stream) {
+    const hn::ScalableTag<T> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    int x = 0;
+    auto fillPixel = [&](int i) {
+        for (int c = 0; c < Written; ++c) dst[i * C + c] = value[c];
+    };
+    if (stream) {
+        const auto misaligned = [&] {
+            return reinterpret_cast<std::uintptr_t>(dst + x * C) % (lanes * sizeof(T)) != 0;
+        };
+        while (x < pixels && x < lanes && misaligned()) fillPixel(x++);
+        stream = !misaligned();
+    }
+    // C vectors hold `lanes` whole pixels.
+    HWY_ALIGN T pattern[C * hn::MaxLanes(d)];
+    HWY_ALIGN T written[C * hn::MaxLanes(d)];
+    for (int i = 0; i < C * lanes; ++i) {
+        pattern[i] = value[i % C];
+        written[i] = i % C < Written ? T(~T(0)) : T(0);
+    }
+    for (; x + lanes <= pixels; x += lanes) {
+        T* out = dst + x * C;
+        for (int v = 0; v < C; ++v) {
+            const auto p = hn::Load(d, pattern + v * lanes);
+            if constexpr (Written < C) {
+                const auto m = hn::MaskFromVec(hn::Load(d, written + v * lanes));
+                hn::BlendedStore(p, m, d, out + v * lanes);
+            } else if (stream) {
+                hn::Stream(p, d, out + v * lanes);
+            } else {
+                hn::StoreU(p, d, out + v * lanes);
+            }
+        }
+    }
+    for (; x < pixels; ++x) fillPixel(x);
+    if (stream) hwy::FlushStream();
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+
+#include "core/checks.h"
+#include "core/image.h"
+#include "core/pixel.h"
+#include "core/simd.h"
+
+namespace zel {
+namespace {
+
+// Fills larger than this many bytes bypass the caches.
+constexpr std::int64_t kSetStreamBytes = 4194304;
+
+template <class T, Layout L>
+ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
+    if (ZelStatus st = Check().ptrs(value, pDst).roi(roi)) return st;
+    using B = BitsOf<T>;
+    constexpr int C = kChannels<L>;
+    B pixel[C] = {};
+    for (int c = 0; c < kComputed<L>; ++c) std::memcpy(&pixel[c], &value[c], sizeof(T));
+
+    const std::int64_t rowBytes = std::int64_t{roi.width} * C * sizeof(T);
+    const bool stream = rowBytes * roi.height > kSetStreamBytes;
+    const ZeliSize rows = L == Layout::AC4 ? roi : collapseRows(roi, rowBytes, {dstStep});
+    const auto fillRow = ZEL_DISPATCH(FillRow<B, C, kComputed<L>>);
+    B* dst = reinterpret_cast<B*>(pDst);
+    for (int y = 0; y < rows.height; ++y) fillRow(rowAt(dst, dstStep, y), rows.width, pixel, stream);
+    return zelStatusOk;
+}
+
+}  // namespace
+}  // namespace zel
+
+// The scalar members take the value itself; the others an array of values.
+#define ZELI_SET_C1(type)                                                        \
+    ZelStatus zeliSet_##type##_C1R(Zel##type value, Zel##type* pDst, int dstStep, \
+                                   ZeliSize roi) {                               \
+        return zel::setImage<Zel##type, zel::Layout::C1>(&value, pDst, dstStep, roi); \
+    }
+#define ZELI_SET(type, layout)                                                    \
+    ZelStatus zeliSet_##type##_##layout##R(const Zel##type value[], Zel##type* pDst, \
+                                           int dstStep, ZeliSize roi) {           \
+        return zel::setImage<Zel##type, zel::Layout::layout>(value, pDst, dstStep, roi); \
+    }
+#define ZELI_SET_ALL_LAYOUTS(type) \
+    ZELI_SET_C1(type) ZELI_SET(type, C3) ZELI_SET(type, C4) ZELI_SET(type, AC4)
+
+ZELI_SET_ALL_LAYOUTS(8u)
+ZELI_SET_ALL_LAYOUTS(16u)
+ZELI_SET_ALL_LAYOUTS(16s)
+ZELI_SET_ALL_LAYOUTS(32s)
+ZELI_SET_ALL_LAYOUTS(32f)
+
+#endif  // HWY_ONCE
