@@ -1,0 +1,320 @@
+// Channel moves: shuffles between interleaved layouts, masked copies and
+// fills, and conversions between interleaved and planar images.
+//
+// The vector bodies load `lanes` whole pixels at a time, split into one
+// vector per channel (LoadInterleaved), rearrange the channel vectors and
+// store them interleaved again. Destination channels that must keep their
+// contents are loaded first and stored back unchanged. Row tails, and for
+// channel-of-interest pointers the last pixel of each row (whose other
+// channels may lie outside the caller's image), take the scalar rule.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/channel_kernels.cpp"
+#include <hwy/foreach_target.h>  // IWYU pragma: keep
+#include <hwy/highway.h>
+
+#include <cstdint>
+#include <type_traits>
+
+#include "data/channel_kernels.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+template <int C, class D>
+HWY_INLINE void LoadPixels(D d, const hn::TFromD<D>* HWY_RESTRICT p, hn::Vec<D>* v) {
+    if constexpr (C == 1) {
+        v[0] = hn::LoadU(d, p);
+    } else if constexpr (C == 3) {
+        hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
+    } else {
+        hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
+    }
+}
+
+template <int C, class D>
+HWY_INLINE void StorePixels(D d, const hn::Vec<D>* v, hn::TFromD<D>* HWY_RESTRICT p) {
+    if constexpr (C == 1) {
+        hn::StoreU(v[0], d, p);
+    } else if constexpr (C == 3) {
+        hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
+    } else {
+        hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, p);
+    }
+}
+
+template <class Order>
+constexpr bool kIsFixed = !std::is_same_v<Order, RuntimeOrder>;
+
+// True when a fixed order only keeps some channels of a same-layout copy
+// ({0, 1, 2, kKeep}, {0, kKeep, kKeep}): a per-lane blend then does the work
+// without splitting pixels into channels.
+template <int SC, int DC, class Order>
+constexpr bool isChannelBlend() {
+    if constexpr (!kIsFixed<Order> || SC != DC) {
+        return false;
+    } else {
+        for (int k = 0; k < DC; ++k)
+            if (Order::kFrom[k] != k && Order::kFrom[k] != kKeep) return false;
+        return true;
+    }
+}
+
+template <class B, int SC, int DC, class Order>
+void ShuffleRow(const B* src, B* dst, int width, const ChannelOrder& order, int reserve) {
+    const hn::ScalableTag<B> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    auto fromOf = [&](int k) {
+        if constexpr (kIsFixed<Order>) {
+            return Order::kFrom[k];
+        } else {
+            return order.from[k];
+        }
+    };
+    const B fill = static_cast<B>(order.fill);
+    int x = 0;
+    const int vectorEnd = width - reserve;
+    if constexpr (isChannelBlend<SC, DC, Order>()) {
+        // DC vectors hold `lanes` whole pixels; each has its own lane mask.
+        HWY_ALIGN B taken[DC * hn::MaxLanes(d)];
+        for (int i = 0; i < DC * lanes; ++i) taken[i] = fromOf(i % DC) == kKeep ? B(0) : B(~B(0));
+        for (; x + lanes <= vectorEnd; x += lanes)
+            for (int v = 0; v < DC; ++v) {
+                const auto m = hn::MaskFromVec(hn::Load(d, taken + v * lanes));
+                B* out = dst + x * DC + v * lanes;
+                hn::StoreU(hn::IfThenElse(m, hn::LoadU(d, src + x * SC + v * lanes), hn::LoadU(d, out)),
+                           d, out);
+            }
+    } else {
+        bool keeps = false;
+        for (int k = 0; k < DC; ++k) keeps |= fromOf(k) == kKeep;
+        using V = hn::Vec<decltype(d)>;
+        V in[SC];
+        V out[DC];
+        for (int k = 0; k < DC; ++k) out[k] = hn::Zero(d);
+        const V fillVec = hn::Set(d, fill);
+        for (; x + lanes <= vectorEnd; x += lanes) {
+            LoadPixels<SC>(d, src + x * SC, in);
+            if (keeps) LoadPixels<DC>(d, dst + x * DC, out);
+            for (int k = 0; k < DC; ++k) {
+                const int from = fromOf(k);
+                if (from >= 0) {
+                    out[k] = in[from];
+                } else if (from == kFill) {
+                    out[k] = fillVec;
+                }
+            }
+            StorePixels<DC>(d, out, dst + x * DC);
+        }
+    }
+    for (; x < width; ++x) {
+        B pixel[SC];
+        for (int c = 0; c < SC; ++c) pixel[c] = src[x * SC + c];
+        for (int k = 0; k < DC; ++k) {
+            const int from = fromOf(k);
+            if (from >= 0) {
+                dst[x * DC + k] = pixel[from];
+            } else if (from == kFill) {
+                dst[x * DC + k] = fill;
+            }
+        }
+    }
+}
+
+// Mask bytes of `lanes` pixels as a mask over lanes of D's type.
+template <class D>
+HWY_INLINE auto PixelMask(D d, const std::uint8_t* HWY_RESTRICT mask) {
+    using B = hn::TFromD<D>;
+    if constexpr (sizeof(B) == 1) {
+        return hn::Ne(hn::LoadU(d, mask), hn::Zero(d));
+    } else {
+        const hn::Rebind<std::uint8_t, D> d8;
+        return hn::Ne(hn::PromoteTo(d, hn::LoadU(d8, mask)), hn::Zero(d));
+    }
+}
+
+// Where the mask is set, channels 0..W-1 of each C-channel pixel take the
+// source pixel's (Fill: value[0..W-1]).
+template <class B, int C, int W, bool Fill>
+void MaskedRow(const B* HWY_RESTRICT src, B* HWY_RESTRICT dst, const std::uint8_t* HWY_RESTRICT mask,
+               int width) {
+    const hn::ScalableTag<B> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    using V = hn::Vec<decltype(d)>;
+    V in[C];
+    V out[C];
+    for (int c = 0; c < C; ++c) in[c] = hn::Zero(d);
+    if constexpr (Fill)
+        for (int c = 0; c < W; ++c) in[c] = hn::Set(d, src[c]);
+    int x = 0;
+    for (; x + lanes <= width; x += lanes) {
+        const auto m = PixelMask(d, mask + x);
+        if constexpr (!Fill) LoadPixels<C>(d, src + x * C, in);
+        LoadPixels<C>(d, dst + x * C, out);
+        for (int c = 0; c < W; ++c) out[c] = hn::IfThenElse(m, in[c], out[c]);
+        StorePixels<C>(d, out, dst + x * C);
+    }
+    for (; x < width; ++x)
+        if (mask[x] != 0)
+            for (int c = 0; c < W; ++c) dst[x * C + c] = Fill ? src[c] : src[x * C + c];
+}
+
+template <class B, int C>
+void SplitRow(const B* HWY_RESTRICT src, B* const* planes, int width) {
+    const hn::ScalableTag<B> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    hn::Vec<decltype(d)> v[C];
+    int x = 0;
+    for (; x + lanes <= width; x += lanes) {
+        LoadPixels<C>(d, src + x * C, v);
+        for (int c = 0; c < C; ++c) hn::StoreU(v[c], d, planes[c] + x);
+    }
+    for (; x < width; ++x)
+        for (int c = 0; c < C; ++c) planes[c][x] = src[x * C + c];
+}
+
+template <class B, int C>
+void MergeRow(const B* const* planes, B* HWY_RESTRICT dst, int width) {
+    const hn::ScalableTag<B> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    hn::Vec<decltype(d)> v[C];
+    int x = 0;
+    for (; x + lanes <= width; x += lanes) {
+        for (int c = 0; c < C; ++c) v[c] = hn::LoadU(d, planes[c] + x);
+        StorePixels<C>(d, v, dst + x * C);
+    }
+    for (; x < width; ++x)
+        for (int c = 0; c < C; ++c) dst[x * C + c] = planes[c][x];
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+
+#include <climits>
+
+#include "core/image.h"
+#include "core/simd.h"
+
+namespace zel {
+namespace {
+
+// Rows of every operand follow one another without padding: the image is
+// one row of width * height pixels (when that count fits).
+ZeliSize collapseContiguous(ZeliSize roi, std::initializer_list<std::pair<int, std::int64_t>> stepAndRowBytes) {
+    for (const auto& [step, rowBytes] : stepAndRowBytes)
+        if (step != rowBytes) return roi;
+    const std::int64_t pixels = std::int64_t{roi.width} * roi.height;
+    return pixels > INT_MAX ? roi : ZeliSize{static_cast<int>(pixels), 1};
+}
+
+}  // namespace
+
+template <class B, int SC, int DC, class Order>
+void shuffleImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
+                  const ChannelOrder& order, bool partial) {
+    const auto row = ZEL_DISPATCH(ShuffleRow<B, SC, DC, Order>);
+    const std::int64_t pixelBytes = sizeof(B);
+    const ZeliSize rows = collapseContiguous(
+        roi, {{srcStep, roi.width * SC * pixelBytes}, {dstStep, roi.width * DC * pixelBytes}});
+    for (int y = 0; y < rows.height; ++y)
+        row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rows.width, order, partial ? 1 : 0);
+}
+
+template <class B, int C, int W>
+void maskedCopyImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
+                     const Zel8u* mask, int maskStep) {
+    const auto row = ZEL_DISPATCH(MaskedRow<B, C, W, false>);
+    for (int y = 0; y < roi.height; ++y)
+        row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rowAt(mask, maskStep, y), roi.width);
+}
+
+template <class B, int C, int W>
+void maskedFillImage(const B* value, B* dst, int dstStep, ZeliSize roi, const Zel8u* mask,
+                     int maskStep) {
+    const auto row = ZEL_DISPATCH(MaskedRow<B, C, W, true>);
+    for (int y = 0; y < roi.height; ++y)
+        row(value, rowAt(dst, dstStep, y), rowAt(mask, maskStep, y), roi.width);
+}
+
+template <class B, int C>
+void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi) {
+    const auto row = ZEL_DISPATCH(SplitRow<B, C>);
+    const std::int64_t elementBytes = sizeof(B);
+    const ZeliSize rows = collapseContiguous(
+        roi, {{srcStep, roi.width * C * elementBytes}, {planeStep, roi.width * elementBytes}});
+    for (int y = 0; y < rows.height; ++y) {
+        B* rowPlanes[C];
+        for (int c = 0; c < C; ++c) rowPlanes[c] = rowAt(planes[c], planeStep, y);
+        row(rowAt(src, srcStep, y), rowPlanes, rows.width);
+    }
+}
+
+template <class B, int C>
+void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi) {
+    const auto row = ZEL_DISPATCH(MergeRow<B, C>);
+    const std::int64_t elementBytes = sizeof(B);
+    const ZeliSize rows = collapseContiguous(
+        roi, {{dstStep, roi.width * C * elementBytes}, {planeStep, roi.width * elementBytes}});
+    for (int y = 0; y < rows.height; ++y) {
+        const B* rowPlanes[C];
+        for (int c = 0; c < C; ++c) rowPlanes[c] = rowAt(planes[c], planeStep, y);
+        row(rowPlanes, rowAt(dst, dstStep, y), rows.width);
+    }
+}
+
+// The instantiations the exported families use, for each element size.
+#define ZEL_CHANNEL_KERNELS(B)                                                                   \
+    template void shuffleImage<B, 4, 4, FixedOrder<0, 1, 2, kKeep>>(                             \
+        const B*, int, B*, int, ZeliSize, const ChannelOrder&, bool);                            \
+    template void shuffleImage<B, 3, 3, FixedOrder<0, kKeep, kKeep>>(                            \
+        const B*, int, B*, int, ZeliSize, const ChannelOrder&, bool);                            \
+    template void shuffleImage<B, 4, 4, FixedOrder<0, kKeep, kKeep, kKeep>>(                     \
+        const B*, int, B*, int, ZeliSize, const ChannelOrder&, bool);                            \
+    template void shuffleImage<B, 1, 3, FixedOrder<0, kKeep, kKeep>>(                            \
+        const B*, int, B*, int, ZeliSize, const ChannelOrder&, bool);                            \
+    template void shuffleImage<B, 1, 4, FixedOrder<0, kKeep, kKeep, kKeep>>(                     \
+        const B*, int, B*, int, ZeliSize, const ChannelOrder&, bool);                            \
+    template void shuffleImage<B, 3, 1, FixedOrder<0>>(const B*, int, B*, int, ZeliSize,         \
+                                                       const ChannelOrder&, bool);               \
+    template void shuffleImage<B, 4, 1, FixedOrder<0>>(const B*, int, B*, int, ZeliSize,         \
+                                                       const ChannelOrder&, bool);               \
+    template void shuffleImage<B, 3, 4, FixedOrder<0, 1, 2, kKeep>>(                             \
+        const B*, int, B*, int, ZeliSize, const ChannelOrder&, bool);                            \
+    template void shuffleImage<B, 4, 3, FixedOrder<0, 1, 2>>(const B*, int, B*, int, ZeliSize,   \
+                                                             const ChannelOrder&, bool);         \
+    template void shuffleImage<B, 3, 3, RuntimeOrder>(const B*, int, B*, int, ZeliSize,          \
+                                                      const ChannelOrder&, bool);                \
+    template void shuffleImage<B, 4, 4, RuntimeOrder>(const B*, int, B*, int, ZeliSize,          \
+                                                      const ChannelOrder&, bool);                \
+    template void shuffleImage<B, 4, 3, RuntimeOrder>(const B*, int, B*, int, ZeliSize,          \
+                                                      const ChannelOrder&, bool);                \
+    template void shuffleImage<B, 3, 4, RuntimeOrder>(const B*, int, B*, int, ZeliSize,          \
+                                                      const ChannelOrder&, bool);                \
+    template void maskedCopyImage<B, 1, 1>(const B*, int, B*, int, ZeliSize, const Zel8u*, int); \
+    template void maskedCopyImage<B, 3, 3>(const B*, int, B*, int, ZeliSize, const Zel8u*, int); \
+    template void maskedCopyImage<B, 4, 4>(const B*, int, B*, int, ZeliSize, const Zel8u*, int); \
+    template void maskedCopyImage<B, 4, 3>(const B*, int, B*, int, ZeliSize, const Zel8u*, int); \
+    template void maskedFillImage<B, 1, 1>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
+    template void maskedFillImage<B, 3, 3>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
+    template void maskedFillImage<B, 4, 4>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
+    template void maskedFillImage<B, 4, 3>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
+    template void splitImage<B, 3>(const B*, int, B* const[], int, ZeliSize);                    \
+    template void splitImage<B, 4>(const B*, int, B* const[], int, ZeliSize);                    \
+    template void mergeImage<B, 3>(const B* const[], int, B*, int, ZeliSize);                    \
+    template void mergeImage<B, 4>(const B* const[], int, B*, int, ZeliSize);
+
+ZEL_CHANNEL_KERNELS(std::uint8_t)
+ZEL_CHANNEL_KERNELS(std::uint16_t)
+ZEL_CHANNEL_KERNELS(std::uint32_t)
+
+// Grey to three equal channels (8-bit only).
+template void shuffleImage<std::uint8_t, 1, 3, FixedOrder<0, 0, 0>>(
+    const std::uint8_t*, int, std::uint8_t*, int, ZeliSize, const ChannelOrder&, bool);
+
+}  // namespace zel
+
+#endif  // HWY_ONCE

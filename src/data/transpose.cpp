@@ -1,0 +1,213 @@
+// Transpose: destination pixel (x, y) is source pixel (y, x).
+//
+// A transposition moves whole pixels, so the kernels are typed by the
+// pixel's byte size alone. Pixels of 1, 2, 4 or 8 bytes are transposed in
+// registers, a square block of 16 / size pixels at a time (a butterfly of
+// lane interleaves); other sizes, and the ragged edges, move pixel by
+// pixel. Out of place the image is walked in 64 x 64 tiles so that source
+// rows and destination rows both stay in the cache; in place (square ROIs
+// only) the image is walked in diagonal tiles of 32 rows (1-byte pixels)
+// or 16 rows, each tile above the diagonal exchanged with its mirror.
+// Checks: null pointers, then the ROI size (in place: also a square ROI);
+// steps are not checked.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "data/transpose.cpp"
+#include <hwy/foreach_target.h>  // IWYU pragma: keep
+#include <hwy/highway.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "core/image.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+template <std::size_t N>
+HWY_INLINE std::uint8_t* pixelAt(std::uint8_t* base, int step, int y, int x) {
+    return rowAt(base, step, y) + std::ptrdiff_t{x} * N;
+}
+template <std::size_t N>
+HWY_INLINE const std::uint8_t* pixelAt(const std::uint8_t* base, int step, int y, int x) {
+    return rowAt(base, step, y) + std::ptrdiff_t{x} * N;
+}
+
+// Register blocks exist for pixels of one vector lane.
+template <std::size_t N>
+constexpr bool kInRegisters = N == 1 || N == 2 || N == 4 || N == 8;
+
+// Pixels per side of a register block.
+template <std::size_t N>
+constexpr int kBlock = kInRegisters<N> ? static_cast<int>(16 / N) : 1;
+
+template <std::size_t N>
+using Lane = std::conditional_t<N == 1, std::uint8_t,
+             std::conditional_t<N == 2, std::uint16_t,
+             std::conditional_t<N == 4, std::uint32_t, std::uint64_t>>>;
+
+// rows[i] holds row i of a K x K block; afterwards rows[i] holds column i.
+// Each round interleaves row i with row i + K/2; log2(K) rounds transpose.
+template <class D, class V>
+HWY_INLINE void TransposeRegisters(D d, V* rows) {
+    constexpr int K = static_cast<int>(16 / sizeof(hn::TFromD<D>));
+    for (int round = 1; round < K; round *= 2) {
+        V next[K];
+        for (int i = 0; i < K / 2; ++i) {
+            next[2 * i] = hn::InterleaveLower(d, rows[i], rows[i + K / 2]);
+            next[2 * i + 1] = hn::InterleaveUpper(d, rows[i], rows[i + K / 2]);
+        }
+        for (int i = 0; i < K; ++i) rows[i] = next[i];
+    }
+}
+
+// dst block at (dy, dx) = transposed src block at (sy, sx); both full.
+template <std::size_t N, class Src, class Dst>
+HWY_INLINE void TransposeRegisterBlock(Src* src, int srcStep, int sy, int sx, Dst* dst, int dstStep,
+                                       int dy, int dx) {
+    using U = Lane<N>;
+    const hn::Full128<U> d;
+    constexpr int K = kBlock<N>;
+    hn::Vec<decltype(d)> rows[K];
+    for (int i = 0; i < K; ++i)
+        rows[i] = hn::LoadU(d, reinterpret_cast<const U*>(pixelAt<N>(src, srcStep, sy + i, sx)));
+    TransposeRegisters(d, rows);
+    for (int i = 0; i < K; ++i)
+        hn::StoreU(rows[i], d, reinterpret_cast<U*>(pixelAt<N>(dst, dstStep, dy + i, dx)));
+}
+
+// Transposes the rows x cols pixels at src into dst (cols x rows).
+template <std::size_t N>
+void TransposeTile(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int rows,
+                   int cols) {
+    constexpr int K = kBlock<N>;
+    int r = 0;
+    if constexpr (kInRegisters<N>) {
+        for (; r + K <= rows; r += K) {
+            int c = 0;
+            for (; c + K <= cols; c += K) TransposeRegisterBlock<N>(src, srcStep, r, c, dst, dstStep, c, r);
+            for (; c < cols; ++c)
+                for (int i = r; i < r + K; ++i)
+                    std::memcpy(pixelAt<N>(dst, dstStep, c, i), pixelAt<N>(src, srcStep, i, c), N);
+        }
+    }
+    for (; r < rows; ++r)
+        for (int c = 0; c < cols; ++c)
+            std::memcpy(pixelAt<N>(dst, dstStep, c, r), pixelAt<N>(src, srcStep, r, c), N);
+}
+
+template <std::size_t N>
+void TransposeImage(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int width,
+                    int height) {
+    constexpr int kTile = 64;
+    for (int ty = 0; ty < height; ty += kTile)
+        for (int tx = 0; tx < width; tx += kTile)
+            TransposeTile<N>(pixelAt<N>(src, srcStep, ty, tx), srcStep, pixelAt<N>(dst, dstStep, tx, ty),
+                             dstStep, std::min(kTile, height - ty), std::min(kTile, width - tx));
+}
+
+template <std::size_t N>
+HWY_INLINE void swapPixels(std::uint8_t* a, std::uint8_t* b) {
+    std::uint8_t t[N];
+    std::memcpy(t, a, N);
+    std::memcpy(a, b, N);
+    std::memcpy(b, t, N);
+}
+
+// Exchanges pixel (r, c) with (c, r) for every r < c inside the register
+// block pair at rows bi.. and columns bj.. (bi <= bj, multiples of K).
+template <std::size_t N>
+void TransposeBlockPair(std::uint8_t* p, int step, int n, int bi, int bj) {
+    constexpr int K = kBlock<N>;
+    if constexpr (kInRegisters<N>) {
+        if (bi + K <= n && bj + K <= n) {
+            if (bi == bj) {
+                TransposeRegisterBlock<N>(p, step, bi, bi, p, step, bi, bi);
+                return;
+            }
+            using U = Lane<N>;
+            const hn::Full128<U> d;
+            hn::Vec<decltype(d)> upper[K], lower[K];
+            for (int i = 0; i < K; ++i) {
+                upper[i] = hn::LoadU(d, reinterpret_cast<const U*>(pixelAt<N>(p, step, bi + i, bj)));
+                lower[i] = hn::LoadU(d, reinterpret_cast<const U*>(pixelAt<N>(p, step, bj + i, bi)));
+            }
+            TransposeRegisters(d, upper);
+            TransposeRegisters(d, lower);
+            for (int i = 0; i < K; ++i) {
+                hn::StoreU(upper[i], d, reinterpret_cast<U*>(pixelAt<N>(p, step, bj + i, bi)));
+                hn::StoreU(lower[i], d, reinterpret_cast<U*>(pixelAt<N>(p, step, bi + i, bj)));
+            }
+            return;
+        }
+    }
+    for (int r = bi; r < std::min(bi + K, n); ++r)
+        for (int c = std::max(bj, r + 1); c < std::min(bj + K, n); ++c)
+            swapPixels<N>(pixelAt<N>(p, step, r, c), pixelAt<N>(p, step, c, r));
+}
+
+template <std::size_t N>
+void TransposeSquareInPlace(std::uint8_t* p, int step, int n) {
+    constexpr int K = kBlock<N>;
+    constexpr int kTile = N == 1 ? 32 : 16;  // a multiple of K
+    for (int ti = 0; ti < n; ti += kTile)
+        for (int tj = ti; tj < n; tj += kTile)
+            for (int bi = ti; bi < std::min(ti + kTile, n); bi += K)
+                for (int bj = std::max(tj, bi); bj < std::min(tj + kTile, n); bj += K)
+                    TransposeBlockPair<N>(p, step, n, bi, bj);
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+
+#include "core/checks.h"
+#include "core/simd.h"
+
+namespace zel {
+namespace {
+
+template <class T, int C>
+ZelStatus transpose(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize roi) {
+    if (ZelStatus st = Check().ptrs(pSrc, pDst).roi(roi)) return st;
+    constexpr std::size_t N = C * sizeof(T);
+    ZEL_DISPATCH(TransposeImage<N>)(reinterpret_cast<const std::uint8_t*>(pSrc), srcStep,
+                                    reinterpret_cast<std::uint8_t*>(pDst), dstStep, roi.width, roi.height);
+    return zelStatusOk;
+}
+
+template <class T, int C>
+ZelStatus transposeInPlace(T* pSrcDst, int srcDstStep, ZeliSize roi) {
+    if (ZelStatus st = Check().ptrs(pSrcDst).roi(roi).that(roi.width == roi.height, zelStatusBadSize))
+        return st;
+    constexpr std::size_t N = C * sizeof(T);
+    ZEL_DISPATCH(TransposeSquareInPlace<N>)(reinterpret_cast<std::uint8_t*>(pSrcDst), srcDstStep,
+                                            roi.width);
+    return zelStatusOk;
+}
+
+}  // namespace
+}  // namespace zel
+
+#define ZELI_TRANSPOSE(type, C)                                                                  \
+    ZelStatus zeliTranspose_##type##_C##C##R(const Zel##type* pSrc, int srcStep, Zel##type* pDst, \
+                                            int dstStep, ZeliSize roi) {                          \
+        return zel::transpose<Zel##type, C>(pSrc, srcStep, pDst, dstStep, roi);                   \
+    }                                                                                             \
+    ZelStatus zeliTranspose_##type##_C##C##IR(Zel##type* pSrcDst, int srcDstStep, ZeliSize roi) {   \
+        return zel::transposeInPlace<Zel##type, C>(pSrcDst, srcDstStep, roi);                      \
+    }
+#define ZELI_TRANSPOSE_ALL_LAYOUTS(type) \
+    ZELI_TRANSPOSE(type, 1) ZELI_TRANSPOSE(type, 3) ZELI_TRANSPOSE(type, 4)
+
+ZELI_TRANSPOSE_ALL_LAYOUTS(8u)
+ZELI_TRANSPOSE_ALL_LAYOUTS(16u)
+ZELI_TRANSPOSE_ALL_LAYOUTS(16s)
+ZELI_TRANSPOSE_ALL_LAYOUTS(32s)
+
+#endif  // HWY_ONCE
