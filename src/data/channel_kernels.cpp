@@ -160,32 +160,68 @@ void MaskedRow(const B* HWY_RESTRICT src, B* HWY_RESTRICT dst, const std::uint8_
             for (int c = 0; c < W; ++c) dst[x * C + c] = Fill ? src[c] : src[x * C + c];
 }
 
-template <class B, int C>
-void SplitRow(const B* HWY_RESTRICT src, B* const* planes, int width) {
-    const hn::ScalableTag<B> d;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    hn::Vec<decltype(d)> v[C];
-    int x = 0;
-    for (; x + lanes <= width; x += lanes) {
-        LoadPixels<C>(d, src + x * C, v);
-        for (int c = 0; c < C; ++c) hn::StoreU(v[c], d, planes[c] + x);
-    }
-    for (; x < width; ++x)
-        for (int c = 0; c < C; ++c) planes[c][x] = src[x * C + c];
+// True when p is aligned for a full vector of D.
+template <class D>
+HWY_INLINE bool vectorAligned(D d, const void* p) {
+    return reinterpret_cast<std::uintptr_t>(p) % (hn::Lanes(d) * sizeof(hn::TFromD<D>)) == 0;
 }
 
+// With `stream` the plane stores bypass the caches once every plane is
+// vector-aligned at the same pixel (planes that never line up take
+// ordinary stores).
 template <class B, int C>
-void MergeRow(const B* const* planes, B* HWY_RESTRICT dst, int width) {
+void SplitRow(const B* HWY_RESTRICT src, B* const* planes, int width, bool stream) {
     const hn::ScalableTag<B> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     hn::Vec<decltype(d)> v[C];
     int x = 0;
+    auto splitPixel = [&](int i) {
+        for (int c = 0; c < C; ++c) planes[c][i] = src[i * C + c];
+    };
+    if (stream) {
+        while (x < width && x < lanes && !vectorAligned(d, planes[0] + x)) splitPixel(x++);
+        for (int c = 0; c < C; ++c) stream &= vectorAligned(d, planes[c] + x);
+    }
+    for (; x + lanes <= width; x += lanes) {
+        LoadPixels<C>(d, src + x * C, v);
+        for (int c = 0; c < C; ++c) {
+            if (stream) {
+                hn::Stream(v[c], d, planes[c] + x);
+            } else {
+                hn::StoreU(v[c], d, planes[c] + x);
+            }
+        }
+    }
+    for (; x < width; ++x) splitPixel(x);
+}
+
+// With `stream` the interleaved pixels are assembled in an aligned buffer
+// and copied out with non-temporal stores once the destination is
+// vector-aligned at a pixel boundary.
+template <class B, int C>
+void MergeRow(const B* const* planes, B* HWY_RESTRICT dst, int width, bool stream) {
+    const hn::ScalableTag<B> d;
+    const int lanes = static_cast<int>(hn::Lanes(d));
+    hn::Vec<decltype(d)> v[C];
+    int x = 0;
+    auto mergePixel = [&](int i) {
+        for (int c = 0; c < C; ++c) dst[i * C + c] = planes[c][i];
+    };
+    if (stream) {
+        while (x < width && x < lanes && !vectorAligned(d, dst + x * C)) mergePixel(x++);
+        stream = vectorAligned(d, dst + x * C);
+    }
+    HWY_ALIGN B staged[C * hn::MaxLanes(d)];
     for (; x + lanes <= width; x += lanes) {
         for (int c = 0; c < C; ++c) v[c] = hn::LoadU(d, planes[c] + x);
-        StorePixels<C>(d, v, dst + x * C);
+        if (stream) {
+            StorePixels<C>(d, v, staged);
+            for (int c = 0; c < C; ++c) hn::Stream(hn::Load(d, staged + c * lanes), d, dst + x * C + c * lanes);
+        } else {
+            StorePixels<C>(d, v, dst + x * C);
+        }
     }
-    for (; x < width; ++x)
-        for (int c = 0; c < C; ++c) dst[x * C + c] = planes[c][x];
+    for (; x < width; ++x) mergePixel(x);
 }
 
 }  // namespace HWY_NAMESPACE
@@ -193,6 +229,8 @@ void MergeRow(const B* const* planes, B* HWY_RESTRICT dst, int width) {
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+#include <hwy/cache_control.h>
 
 #include <climits>
 
@@ -212,6 +250,8 @@ ZeliSize collapseContiguous(ZeliSize roi, std::initializer_list<std::pair<int, s
 }
 
 }  // namespace
+
+bool planarStreams(std::int64_t interleavedBytes) { return interleavedBytes > kPlanarStreamBytes; }
 
 template <class B, int SC, int DC, class Order>
 void shuffleImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
@@ -241,7 +281,7 @@ void maskedFillImage(const B* value, B* dst, int dstStep, ZeliSize roi, const Ze
 }
 
 template <class B, int C>
-void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi) {
+void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi, bool stream) {
     const auto row = ZEL_DISPATCH(SplitRow<B, C>);
     const std::int64_t elementBytes = sizeof(B);
     const ZeliSize rows = collapseContiguous(
@@ -249,12 +289,13 @@ void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, Zel
     for (int y = 0; y < rows.height; ++y) {
         B* rowPlanes[C];
         for (int c = 0; c < C; ++c) rowPlanes[c] = rowAt(planes[c], planeStep, y);
-        row(rowAt(src, srcStep, y), rowPlanes, rows.width);
+        row(rowAt(src, srcStep, y), rowPlanes, rows.width, stream);
     }
+    if (stream) hwy::FlushStream();
 }
 
 template <class B, int C>
-void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi) {
+void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi, bool stream) {
     const auto row = ZEL_DISPATCH(MergeRow<B, C>);
     const std::int64_t elementBytes = sizeof(B);
     const ZeliSize rows = collapseContiguous(
@@ -262,8 +303,9 @@ void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, Zel
     for (int y = 0; y < rows.height; ++y) {
         const B* rowPlanes[C];
         for (int c = 0; c < C; ++c) rowPlanes[c] = rowAt(planes[c], planeStep, y);
-        row(rowPlanes, rowAt(dst, dstStep, y), rows.width);
+        row(rowPlanes, rowAt(dst, dstStep, y), rows.width, stream);
     }
+    if (stream) hwy::FlushStream();
 }
 
 // The instantiations the exported families use, for each element size.
@@ -302,10 +344,10 @@ void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, Zel
     template void maskedFillImage<B, 3, 3>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
     template void maskedFillImage<B, 4, 4>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
     template void maskedFillImage<B, 4, 3>(const B*, B*, int, ZeliSize, const Zel8u*, int);      \
-    template void splitImage<B, 3>(const B*, int, B* const[], int, ZeliSize);                    \
-    template void splitImage<B, 4>(const B*, int, B* const[], int, ZeliSize);                    \
-    template void mergeImage<B, 3>(const B* const[], int, B*, int, ZeliSize);                    \
-    template void mergeImage<B, 4>(const B* const[], int, B*, int, ZeliSize);
+    template void splitImage<B, 3>(const B*, int, B* const[], int, ZeliSize, bool);              \
+    template void splitImage<B, 4>(const B*, int, B* const[], int, ZeliSize, bool);              \
+    template void mergeImage<B, 3>(const B* const[], int, B*, int, ZeliSize, bool);              \
+    template void mergeImage<B, 4>(const B* const[], int, B*, int, ZeliSize, bool);
 
 ZEL_CHANNEL_KERNELS(std::uint8_t)
 ZEL_CHANNEL_KERNELS(std::uint16_t)

@@ -50,10 +50,14 @@ template <class B, int C, int W>
 void maskedFillImage(const B* value, B* dst, int dstStep, ZeliSize roi, const Zel8u* mask,
                      int maskStep);
 
-// Interleaved C channels to C planes sharing one step, and back.
+// Interleaved C channels to C planes sharing one step, and back. With
+// `stream` the stores bypass the caches, as planarStreams() decides for
+// images of more than kPlanarStreamBytes (interleaved size).
+constexpr std::int64_t kPlanarStreamBytes = 2097152;
+bool planarStreams(std::int64_t interleavedBytes);
 template <class B, int C>
-void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi);
+void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi, bool stream);
 template <class B, int C>
-void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi);
+void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi, bool stream);
 
 }  // namespace zel

@@ -21,6 +21,12 @@ BitsOf<T>* bitsOf(T* p) {
     return reinterpret_cast<BitsOf<T>*>(p);
 }
 
+// Bytes of a ROI of C-channel pixels.
+template <class T, int C>
+std::int64_t pixelBytes(ZeliSize roi) {
+    return std::int64_t{roi.width} * roi.height * C * sizeof(T);
+}
+
 template <class T, int C>
 ZelStatus copyPlain(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize roi) {
     if (ZelStatus st = Check().ptrs(pSrc, pDst).roi(roi)) return st;
@@ -53,7 +59,7 @@ ZelStatus copyToPlanes(const T* pSrc, int srcStep, T* const pDst[], int dstStep,
     if (ZelStatus st = Check().ptrs(pSrc).planes(pDst, C).roi(roi)) return st;
     BitsOf<T>* planes[C];
     for (int c = 0; c < C; ++c) planes[c] = bitsOf(pDst[c]);
-    splitImage<BitsOf<T>, C>(bitsOf(pSrc), srcStep, planes, dstStep, roi);
+    splitImage<BitsOf<T>, C>(bitsOf(pSrc), srcStep, planes, dstStep, roi, planarStreams(pixelBytes<T, C>(roi)));
     return zelStatusOk;
 }
 
@@ -62,7 +68,7 @@ ZelStatus copyFromPlanes(const T* const pSrc[], int srcStep, T* pDst, int dstSte
     if (ZelStatus st = Check().planes(pSrc, C).ptrs(pDst).roi(roi)) return st;
     const BitsOf<T>* planes[C];
     for (int c = 0; c < C; ++c) planes[c] = bitsOf(pSrc[c]);
-    mergeImage<BitsOf<T>, C>(planes, srcStep, bitsOf(pDst), dstStep, roi);
+    mergeImage<BitsOf<T>, C>(planes, srcStep, bitsOf(pDst), dstStep, roi, planarStreams(pixelBytes<T, C>(roi)));
     return zelStatusOk;
 }
 

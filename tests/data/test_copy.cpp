@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "data/channel_kernels.h"
 #include "data/copy_rows.h"
 #include "harness/checkorder.h"
 #include "moves.h"
@@ -105,6 +106,31 @@ TEST(Copy, PlanarMembersSplitAndMerge) {
     CHECK_PLANAR(16s);
     CHECK_PLANAR(32s);
     CHECK_PLANAR(32f);
+}
+
+// Planar moves with and without non-temporal stores, on planes that line
+// up with the vectors and planes that do not.
+TEST(CopyPaths, PlanarStoresGiveTheSameBytes) {
+    EXPECT_FALSE(zel::planarStreams(zel::kPlanarStreamBytes));
+    EXPECT_TRUE(zel::planarStreams(zel::kPlanarStreamBytes + 1));
+    zel::test::forEachConfig([] {
+        for (ZeliSize roi : {ZeliSize{1, 1}, ZeliSize{63, 17}, ZeliSize{1031, 3}, ZeliSize{256, 2}})
+            for (int offset : {0, 2, 3})
+                for (bool stream : {false, true}) {
+                    SCOPED_TRACE(testing::Message() << roi.width << "x" << roi.height << " offset " << offset
+                                                    << " stream " << stream);
+                    Image<Zel16u> pixels(roi, 3, -1, 0, 0, 4), back(roi, 3, -1, 2 * offset, 0, 6);
+                    std::vector<Image<Zel16u>> planes;
+                    for (int c = 0; c < 3; ++c) planes.emplace_back(roi, 1, -1, 2 * offset, 6, 5 + c);
+                    Zel16u* dst[3] = {planes[0].roi(), planes[1].roi(), planes[2].roi()};
+                    zel::splitImage<Zel16u, 3>(pixels.roi(), pixels.step(), dst, planes[0].step(), roi, stream);
+                    const Zel16u* src[3] = {dst[0], dst[1], dst[2]};
+                    zel::mergeImage<Zel16u, 3>(src, planes[0].step(), back.roi(), back.step(), roi, stream);
+                    ASSERT_TRUE(zel::test::sameRoi(back, pixels, 3));
+                    ASSERT_TRUE(back.outsideUnchanged());
+                    for (const auto& plane : planes) ASSERT_TRUE(plane.outsideUnchanged());
+                }
+    });
 }
 
 template <class T>
