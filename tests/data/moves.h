@@ -74,4 +74,31 @@ inline Image<Zel8u> randomMask(ZeliSize roi, std::uint32_t seed) {
     return mask;
 }
 
+// Masked members: where the mask byte is non-zero, the first `written` of
+// the `channels` channels become want(src, x, y, c); everything else stays.
+// run(src, dst, mask) calls the member; src is a random image of the same
+// shape (a fill ignores it).
+template <class T, class Run, class Want>
+void checkMasked(int channels, int written, Run&& run, Want&& want) {
+    forEachConfig([&] {
+        for (ZeliSize roi : oddSizes()) {
+            SCOPED_TRACE(testing::Message() << channels << "/" << written << " channels " << roi.width
+                                            << "x" << roi.height);
+            const Image<T> src(roi, channels, -1, sizeof(T), 5 * sizeof(T), 2);
+            Image<T> dst(roi, channels, -1, 0, 7 * sizeof(T), 3);
+            const Image<Zel8u> mask = randomMask(roi, 4);
+            const Image<T> before = dst;
+            ASSERT_EQ(run(src, dst, mask), zelStatusOk);
+            for (int y = 0; y < roi.height; ++y)
+                for (int x = 0; x < roi.width; ++x)
+                    for (int c = 0; c < channels; ++c) {
+                        const bool taken = mask.at(x, y) != 0 && c < written;
+                        ASSERT_EQ(dst.at(x, y, c), taken ? want(src, x, y, c) : before.at(x, y, c))
+                            << x << "," << y << "," << c;
+                    }
+            ASSERT_TRUE(dst.outsideUnchanged());
+        }
+    });
+}
+
 }  // namespace zel::test

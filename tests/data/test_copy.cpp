@@ -138,27 +138,13 @@ using MaskedCopyFn = ZelStatus (*)(const T*, int, T*, int, ZeliSize, const Zel8u
 
 template <class T>
 void checkMaskedCopy(const std::vector<std::pair<ChannelMove, MaskedCopyFn<T>>>& members) {
-    zel::test::forEachConfig([&] {
-        for (const auto& [m, call] : members)
-            for (ZeliSize roi : zel::test::oddSizes()) {
-                SCOPED_TRACE(testing::Message() << m.dstChannels << " channels " << roi.width << "x"
-                                                << roi.height);
-                Image<T> src(roi, m.srcChannels, -1, sizeof(T), 5 * sizeof(T), 2);
-                Image<T> dst(roi, m.dstChannels, -1, 0, 7 * sizeof(T), 3);
-                const Image<Zel8u> mask = zel::test::randomMask(roi, 4);
-                const Image<T> before = dst;
-                ASSERT_EQ(call(src.roi(), src.step(), dst.roi(), dst.step(), roi, mask.roi(), mask.step()),
-                          zelStatusOk);
-                for (int y = 0; y < roi.height; ++y)
-                    for (int x = 0; x < roi.width; ++x)
-                        for (int c = 0; c < m.dstChannels; ++c) {
-                            const bool taken = mask.at(x, y) != 0 && m.from[c] != kKept;
-                            ASSERT_EQ(dst.at(x, y, c), taken ? src.at(x, y, c) : before.at(x, y, c))
-                                << x << "," << y << "," << c;
-                        }
-                ASSERT_TRUE(dst.outsideUnchanged());
-            }
-    });
+    for (const auto& [m, call] : members)
+        zel::test::checkMasked<T>(
+            m.dstChannels, m.from[3] == kKept ? 3 : m.dstChannels,
+            [&, call = call](const Image<T>& src, Image<T>& dst, const Image<Zel8u>& mask) {
+                return call(src.roi(), src.step(), dst.roi(), dst.step(), dst.size(), mask.roi(), mask.step());
+            },
+            [](const Image<T>& src, int x, int y, int c) { return src.at(x, y, c); });
 }
 
 #define MASKED_COPY_MEMBERS(T, t)                                             \

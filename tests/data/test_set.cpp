@@ -122,24 +122,13 @@ struct MaskedShape {
 template <class T>
 void checkMaskedSet(const std::vector<std::pair<MaskedShape, MaskedSetFn<T>>>& members) {
     const T value[4] = {T(7), T(-3), T(100), T(-1)};
-    zel::test::forEachConfig([&] {
-        for (const auto& [shape, call] : members)
-            for (ZeliSize roi : zel::test::oddSizes()) {
-                SCOPED_TRACE(testing::Message() << shape.channels << "/" << shape.written << " "
-                                                << roi.width << "x" << roi.height);
-                Image<T> dst(roi, shape.channels, -1, sizeof(T), 7 * sizeof(T), 3);
-                const Image<T> before = dst;
-                const Image<Zel8u> mask = zel::test::randomMask(roi, 5);
-                ASSERT_EQ(call(value, dst.roi(), dst.step(), roi, mask.roi(), mask.step()), zelStatusOk);
-                for (int y = 0; y < roi.height; ++y)
-                    for (int x = 0; x < roi.width; ++x)
-                        for (int c = 0; c < shape.channels; ++c) {
-                            const bool set = mask.at(x, y) != 0 && c < shape.written;
-                            ASSERT_EQ(dst.at(x, y, c), set ? value[c] : before.at(x, y, c));
-                        }
-                ASSERT_TRUE(dst.outsideUnchanged());
-            }
-    });
+    for (const auto& [shape, call] : members)
+        zel::test::checkMasked<T>(
+            shape.channels, shape.written,
+            [&, call = call](const Image<T>&, Image<T>& dst, const Image<Zel8u>& mask) {
+                return call(value, dst.roi(), dst.step(), dst.size(), mask.roi(), mask.step());
+            },
+            [&](const Image<T>&, int, int, int c) { return value[c]; });
 }
 
 TEST(Set, MaskedMembersFillOnlySelectedPixels) {
