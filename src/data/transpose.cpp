@@ -1,13 +1,14 @@
 // Transpose: destination pixel (x, y) is source pixel (y, x).
 //
 // A transposition moves whole pixels, so the kernels are typed by the
-// pixel's byte size alone. Pixels of 1, 2, 4 or 8 bytes are transposed in
+// pixel's byte size alone. Pixels of 1, 2 or 4 bytes are transposed in
 // registers, a square block of 16 / size pixels at a time (a butterfly of
-// lane interleaves); other sizes, and the ragged edges, move pixel by
-// pixel. Out of place the image is walked in 64 x 64 tiles so that source
-// rows and destination rows both stay in the cache; in place (square ROIs
-// only) the image is walked in diagonal tiles of 32 rows (1-byte pixels)
-// or 16 rows, each tile above the diagonal exchanged with its mirror.
+// lane interleaves); out of place the image is walked in 64 x 64 tiles so
+// that source and destination rows both stay in the cache, and in place
+// (square ROIs only) in diagonal tiles of 32 rows (1-byte pixels) or 16
+// rows, each tile above the diagonal exchanged with its mirror. Wider
+// pixels, and the ragged edges, move pixel by pixel, four destination rows
+// at a time, which keeps the stores in order without tiles.
 // Checks: null pointers, then the ROI size (in place: also a square ROI);
 // steps are not checked.
 #undef HWY_TARGET_INCLUDE
@@ -38,16 +39,14 @@ HWY_INLINE const std::uint8_t* pixelAt(const std::uint8_t* base, int step, int y
 
 // Register blocks exist for pixels of one vector lane.
 template <std::size_t N>
-constexpr bool kInRegisters = N == 1 || N == 2 || N == 4 || N == 8;
+constexpr bool kInRegisters = N == 1 || N == 2 || N == 4;
 
 // Pixels per side of a register block.
 template <std::size_t N>
 constexpr int kBlock = kInRegisters<N> ? static_cast<int>(16 / N) : 1;
 
 template <std::size_t N>
-using Lane = std::conditional_t<N == 1, std::uint8_t,
-             std::conditional_t<N == 2, std::uint16_t,
-             std::conditional_t<N == 4, std::uint32_t, std::uint64_t>>>;
+using Lane = std::conditional_t<N == 1, std::uint8_t, std::conditional_t<N == 2, std::uint16_t, std::uint32_t>>;
 
 // rows[i] holds row i of a K x K block; afterwards rows[i] holds column i.
 // Each round interleaves row i with row i + K/2; log2(K) rounds transpose.
@@ -79,29 +78,59 @@ HWY_INLINE void TransposeRegisterBlock(Src* src, int srcStep, int sy, int sx, Ds
         hn::StoreU(rows[i], d, reinterpret_cast<U*>(pixelAt<N>(dst, dstStep, dy + i, dx)));
 }
 
+// Pixel by pixel, four destination rows at a time: each source row gives
+// four adjacent pixels and the destination rows fill in order.
+template <std::size_t N>
+void TransposeByPixels(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int rows,
+                       int cols) {
+    int c = 0;
+    for (; c + 4 <= cols; c += 4) {
+        std::uint8_t* d0 = rowAt(dst, dstStep, c);
+        std::uint8_t* d1 = rowAt(dst, dstStep, c + 1);
+        std::uint8_t* d2 = rowAt(dst, dstStep, c + 2);
+        std::uint8_t* d3 = rowAt(dst, dstStep, c + 3);
+        const std::uint8_t* s = src + std::ptrdiff_t{c} * N;
+        for (std::ptrdiff_t r = 0; r < rows; ++r, s += srcStep) {
+            std::memcpy(d0 + r * N, s, N);
+            std::memcpy(d1 + r * N, s + N, N);
+            std::memcpy(d2 + r * N, s + 2 * N, N);
+            std::memcpy(d3 + r * N, s + 3 * N, N);
+        }
+    }
+    for (; c < cols; ++c) {
+        std::uint8_t* d = rowAt(dst, dstStep, c);
+        const std::uint8_t* s = src + std::ptrdiff_t{c} * N;
+        for (std::ptrdiff_t r = 0; r < rows; ++r, s += srcStep) std::memcpy(d + r * N, s, N);
+    }
+}
+
 // Transposes the rows x cols pixels at src into dst (cols x rows).
 template <std::size_t N>
 void TransposeTile(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int rows,
                    int cols) {
-    constexpr int K = kBlock<N>;
-    int r = 0;
     if constexpr (kInRegisters<N>) {
-        for (; r + K <= rows; r += K) {
-            int c = 0;
-            for (; c + K <= cols; c += K) TransposeRegisterBlock<N>(src, srcStep, r, c, dst, dstStep, c, r);
-            for (; c < cols; ++c)
-                for (int i = r; i < r + K; ++i)
-                    std::memcpy(pixelAt<N>(dst, dstStep, c, i), pixelAt<N>(src, srcStep, i, c), N);
-        }
+        constexpr int K = kBlock<N>;
+        const int fullRows = rows / K * K;
+        const int fullCols = cols / K * K;
+        for (int r = 0; r < fullRows; r += K)
+            for (int c = 0; c < fullCols; c += K) TransposeRegisterBlock<N>(src, srcStep, r, c, dst, dstStep, c, r);
+        // The ragged right columns, then the ragged bottom rows.
+        TransposeByPixels<N>(pixelAt<N>(src, srcStep, 0, fullCols), srcStep, pixelAt<N>(dst, dstStep, fullCols, 0),
+                             dstStep, fullRows, cols - fullCols);
+        TransposeByPixels<N>(pixelAt<N>(src, srcStep, fullRows, 0), srcStep, pixelAt<N>(dst, dstStep, 0, fullRows),
+                             dstStep, rows - fullRows, cols);
+    } else {
+        TransposeByPixels<N>(src, srcStep, dst, dstStep, rows, cols);
     }
-    for (; r < rows; ++r)
-        for (int c = 0; c < cols; ++c)
-            std::memcpy(pixelAt<N>(dst, dstStep, c, r), pixelAt<N>(src, srcStep, r, c), N);
 }
 
 template <std::size_t N>
 void TransposeImage(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int width,
                     int height) {
+    if constexpr (!kInRegisters<N>) {
+        TransposeByPixels<N>(src, srcStep, dst, dstStep, height, width);
+        return;
+    }
     constexpr int kTile = 64;
     for (int ty = 0; ty < height; ty += kTile)
         for (int tx = 0; tx < width; tx += kTile)
@@ -151,6 +180,15 @@ void TransposeBlockPair(std::uint8_t* p, int step, int n, int bi, int bj) {
 
 template <std::size_t N>
 void TransposeSquareInPlace(std::uint8_t* p, int step, int n) {
+    if constexpr (!kInRegisters<N>) {
+        // Row r right of the diagonal against column r below it.
+        for (int r = 0; r + 1 < n; ++r) {
+            std::uint8_t* right = pixelAt<N>(p, step, r, r + 1);
+            std::uint8_t* below = pixelAt<N>(p, step, r + 1, r);
+            for (int c = r + 1; c < n; ++c, right += N, below += step) swapPixels<N>(right, below);
+        }
+        return;
+    }
     constexpr int K = kBlock<N>;
     constexpr int kTile = N == 1 ? 32 : 16;  // a multiple of K
     for (int ti = 0; ti < n; ti += kTile)
