@@ -12,6 +12,8 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
+#include "data/store_under_mask-inl.h"
+
 #include <cstdint>
 #include <type_traits>
 
@@ -21,6 +23,11 @@ HWY_BEFORE_NAMESPACE();
 namespace zel {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
+
+// At most 256-bit vectors: AVX-512's wider (de)interleaving shuffles cost
+// more than they save on these memory-bound moves.
+template <class B>
+using PixelTag = hn::CappedTag<B, 32 / sizeof(B)>;
 
 template <int C, class D>
 HWY_INLINE void LoadPixels(D d, const hn::TFromD<D>* HWY_RESTRICT p, hn::Vec<D>* v) {
@@ -63,7 +70,7 @@ constexpr bool isChannelBlend() {
 
 template <class B, int SC, int DC, class Order>
 void ShuffleRow(const B* src, B* dst, int width, const ChannelOrder& order, int reserve) {
-    const hn::ScalableTag<B> d;
+    const PixelTag<B> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     auto fromOf = [&](int k) {
         if constexpr (kIsFixed<Order>) {
@@ -75,28 +82,31 @@ void ShuffleRow(const B* src, B* dst, int width, const ChannelOrder& order, int 
     const B fill = static_cast<B>(order.fill);
     int x = 0;
     const int vectorEnd = width - reserve;
+    // Lane masks of the DC vectors that hold `lanes` whole pixels: set
+    // where the destination channel is written, clear where it is kept.
+    HWY_ALIGN B taken[DC * hn::MaxLanes(d)];
+    bool keeps = false;
+    for (int i = 0; i < DC * lanes; ++i) {
+        keeps |= fromOf(i % DC) == kKeep;
+        taken[i] = fromOf(i % DC) == kKeep ? B(0) : B(~B(0));
+    }
     if constexpr (isChannelBlend<SC, DC, Order>()) {
-        // DC vectors hold `lanes` whole pixels; each has its own lane mask.
-        HWY_ALIGN B taken[DC * hn::MaxLanes(d)];
-        for (int i = 0; i < DC * lanes; ++i) taken[i] = fromOf(i % DC) == kKeep ? B(0) : B(~B(0));
         for (; x + lanes <= vectorEnd; x += lanes)
             for (int v = 0; v < DC; ++v) {
                 const auto m = hn::MaskFromVec(hn::Load(d, taken + v * lanes));
-                B* out = dst + x * DC + v * lanes;
-                hn::StoreU(hn::IfThenElse(m, hn::LoadU(d, src + x * SC + v * lanes), hn::LoadU(d, out)),
-                           d, out);
+                StoreUnderMask(hn::LoadU(d, src + x * SC + v * lanes), m, d, dst + x * DC + v * lanes);
             }
     } else {
-        bool keeps = false;
-        for (int k = 0; k < DC; ++k) keeps |= fromOf(k) == kKeep;
         using V = hn::Vec<decltype(d)>;
         V in[SC];
         V out[DC];
         for (int k = 0; k < DC; ++k) out[k] = hn::Zero(d);
         const V fillVec = hn::Set(d, fill);
+        // With kept channels the pixels are assembled in `staged` and
+        // stored under the lane masks.
+        HWY_ALIGN B staged[DC * hn::MaxLanes(d)];
         for (; x + lanes <= vectorEnd; x += lanes) {
             LoadPixels<SC>(d, src + x * SC, in);
-            if (keeps) LoadPixels<DC>(d, dst + x * DC, out);
             for (int k = 0; k < DC; ++k) {
                 const int from = fromOf(k);
                 if (from >= 0) {
@@ -105,7 +115,14 @@ void ShuffleRow(const B* src, B* dst, int width, const ChannelOrder& order, int 
                     out[k] = fillVec;
                 }
             }
-            StorePixels<DC>(d, out, dst + x * DC);
+            if (!keeps) {
+                StorePixels<DC>(d, out, dst + x * DC);
+                continue;
+            }
+            StorePixels<DC>(d, out, staged);
+            for (int v = 0; v < DC; ++v)
+                StoreUnderMask(hn::Load(d, staged + v * lanes), hn::MaskFromVec(hn::Load(d, taken + v * lanes)),
+                                 d, dst + x * DC + v * lanes);
         }
     }
     for (; x < width; ++x) {
@@ -139,7 +156,7 @@ HWY_INLINE auto PixelMask(D d, const std::uint8_t* HWY_RESTRICT mask) {
 template <class B, int C, int W, bool Fill>
 void MaskedRow(const B* HWY_RESTRICT src, B* HWY_RESTRICT dst, const std::uint8_t* HWY_RESTRICT mask,
                int width) {
-    const hn::ScalableTag<B> d;
+    const PixelTag<B> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     using V = hn::Vec<decltype(d)>;
     V in[C];
@@ -171,7 +188,7 @@ HWY_INLINE bool vectorAligned(D d, const void* p) {
 // ordinary stores).
 template <class B, int C>
 void SplitRow(const B* HWY_RESTRICT src, B* const* planes, int width, bool stream) {
-    const hn::ScalableTag<B> d;
+    const PixelTag<B> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     hn::Vec<decltype(d)> v[C];
     int x = 0;
@@ -200,7 +217,7 @@ void SplitRow(const B* HWY_RESTRICT src, B* const* planes, int width, bool strea
 // vector-aligned at a pixel boundary.
 template <class B, int C>
 void MergeRow(const B* const* planes, B* HWY_RESTRICT dst, int width, bool stream) {
-    const hn::ScalableTag<B> d;
+    const PixelTag<B> d;
     const int lanes = static_cast<int>(hn::Lanes(d));
     hn::Vec<decltype(d)> v[C];
     int x = 0;

@@ -12,6 +12,8 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
+#include "data/store_under_mask-inl.h"
+
 #include <hwy/cache_control.h>
 
 #include <cstdint>
@@ -54,7 +56,7 @@ void FillRow(T* HWY_RESTRICT dst, int pixels, const T* HWY_RESTRICT value, bool 
             const auto p = hn::Load(d, pattern + v * lanes);
             if constexpr (Written < C) {
                 const auto m = hn::MaskFromVec(hn::Load(d, written + v * lanes));
-                hn::BlendedStore(p, m, d, out + v * lanes);
+                StoreUnderMask(p, m, d, out + v * lanes);
             } else if (stream) {
                 hn::Stream(p, d, out + v * lanes);
             } else {
