@@ -41,25 +41,62 @@ HWY_INLINE const std::uint8_t* pixelAt(const std::uint8_t* base, int step, int y
 template <std::size_t N>
 constexpr bool kInRegisters = N == 1 || N == 2 || N == 4;
 
-// Pixels per side of a register block.
-template <std::size_t N>
-constexpr int kBlock = kInRegisters<N> ? static_cast<int>(16 / N) : 1;
-
 template <std::size_t N>
 using Lane = std::conditional_t<N == 1, std::uint8_t, std::conditional_t<N == 2, std::uint16_t, std::uint32_t>>;
 
+// Targets with 256-bit vectors take 4-byte pixels in 8 x 8 blocks; every
+// other block is one 128-bit vector per row (16 x 16 bytes, 8 x 8 2-byte
+// or 4 x 4 4-byte pixels).
+#if HWY_TARGET == HWY_AVX2 || HWY_TARGET == HWY_AVX3
+template <std::size_t N>
+using BlockTag = std::conditional_t<N == 4, hn::Full256<std::uint32_t>, hn::Full128<Lane<N>>>;
+#else
+template <std::size_t N>
+using BlockTag = hn::Full128<Lane<N>>;
+#endif
+
+// Pixels per side of a register block.
+template <std::size_t N>
+constexpr int kBlock = kInRegisters<N> ? static_cast<int>(hn::MaxLanes(BlockTag<N>())) : 1;
+
 // rows[i] holds row i of a K x K block; afterwards rows[i] holds column i.
-// Each round interleaves row i with row i + K/2; log2(K) rounds transpose.
+// Within 128 bits each round interleaves row i with row i + K/2 and
+// log2(K) rounds transpose. 256-bit rows of 8 lanes interleave within
+// their two halves (lanes then pairs), which leaves 4 x 4 quarters in
+// place; the halves are then exchanged across rows i and i + 4.
 template <class D, class V>
 HWY_INLINE void TransposeRegisters(D d, V* rows) {
-    constexpr int K = static_cast<int>(16 / sizeof(hn::TFromD<D>));
-    for (int round = 1; round < K; round *= 2) {
-        V next[K];
-        for (int i = 0; i < K / 2; ++i) {
-            next[2 * i] = hn::InterleaveLower(d, rows[i], rows[i + K / 2]);
-            next[2 * i + 1] = hn::InterleaveUpper(d, rows[i], rows[i + K / 2]);
+    constexpr int K = static_cast<int>(hn::MaxLanes(D()));
+    if constexpr (K * sizeof(hn::TFromD<D>) == 16) {
+        for (int round = 1; round < K; round *= 2) {
+            V next[K];
+            for (int i = 0; i < K / 2; ++i) {
+                next[2 * i] = hn::InterleaveLower(d, rows[i], rows[i + K / 2]);
+                next[2 * i + 1] = hn::InterleaveUpper(d, rows[i], rows[i + K / 2]);
+            }
+            for (int i = 0; i < K; ++i) rows[i] = next[i];
         }
-        for (int i = 0; i < K; ++i) rows[i] = next[i];
+    } else {
+        static_assert(K == 8, "8 x 8 blocks of 32-bit lanes");
+        const hn::Repartition<std::uint64_t, D> d64;
+        V pairs[8], quads[8];
+        for (int i = 0; i < 4; ++i) {  // rows 2i, 2i+1: lanes 0,1 | 4,5 and 2,3 | 6,7
+            pairs[2 * i] = hn::InterleaveLower(d, rows[2 * i], rows[2 * i + 1]);
+            pairs[2 * i + 1] = hn::InterleaveUpper(d, rows[2 * i], rows[2 * i + 1]);
+        }
+        for (int h = 0; h < 2; ++h)  // rows 0-3, then rows 4-7
+            for (int j = 0; j < 2; ++j) {
+                const auto a = hn::BitCast(d64, pairs[4 * h + j]);
+                const auto b = hn::BitCast(d64, pairs[4 * h + j + 2]);
+                quads[4 * h + 2 * j] = hn::BitCast(d, hn::InterleaveLower(d64, a, b));
+                quads[4 * h + 2 * j + 1] = hn::BitCast(d, hn::InterleaveUpper(d64, a, b));
+            }
+        // quads[c] (c < 4) holds column c of rows 0-3 | column c + 4 of
+        // rows 0-3; quads[c + 4] the same for rows 4-7.
+        for (int c = 0; c < 4; ++c) {
+            rows[c] = hn::ConcatLowerLower(d, quads[c + 4], quads[c]);
+            rows[c + 4] = hn::ConcatUpperUpper(d, quads[c + 4], quads[c]);
+        }
     }
 }
 
@@ -68,7 +105,7 @@ template <std::size_t N, class Src, class Dst>
 HWY_INLINE void TransposeRegisterBlock(Src* src, int srcStep, int sy, int sx, Dst* dst, int dstStep,
                                        int dy, int dx) {
     using U = Lane<N>;
-    const hn::Full128<U> d;
+    const BlockTag<N> d;
     constexpr int K = kBlock<N>;
     hn::Vec<decltype(d)> rows[K];
     for (int i = 0; i < K; ++i)
@@ -158,7 +195,7 @@ void TransposeBlockPair(std::uint8_t* p, int step, int n, int bi, int bj) {
                 return;
             }
             using U = Lane<N>;
-            const hn::Full128<U> d;
+            const BlockTag<N> d;
             hn::Vec<decltype(d)> upper[K], lower[K];
             for (int i = 0; i < K; ++i) {
                 upper[i] = hn::LoadU(d, reinterpret_cast<const U*>(pixelAt<N>(p, step, bi + i, bj)));
