@@ -1,15 +1,18 @@
 // Division kernels and the row loop that drives them.
 //
 // The 8u, 16u and 16s kernels divide in floating point and still give the
-// exact rounded quotient. With P = |dividend| * 2^max(-s,0) and
-// Q = |divisor| * 2^max(s,0) (both exact after the scale factor has been
-// moved into its band, see bandScale), a non-integer P/Q lies at least 1/Q
-// away from every integer, while the rounding error of the quotient is at
-// most (P/Q) * 2^-p for a p-bit mantissa. That is below 1/Q whenever
-// P < 2^p: true for 8u in single precision (P < 2^24) and for 16u/16s in
-// double precision (P < 2^48). So truncating the floating-point quotient
-// gives floor(P/Q) exactly, the remainder P - q*Q is exact, and comparing
-// twice the remainder with Q decides the rounding as the integer rule does.
+// exact rounded quotient. P = dividend * 2^max(-s,0) and
+// Q = divisor * 2^max(s,0) are exact (the scale factor has been moved into
+// its band, see bandScale), and x = P / Q is correctly rounded. An exact
+// quotient that is not an integer lies at least 1/Q away from every
+// integer, one that is not a half-integer at least 1/(2Q) away from every
+// half-integer, while x is off by at most |P/Q| * 2^-p for a p-bit
+// significand: less than 1/(2Q) whenever |P| < 2^(p-1). Integers and
+// half-integers are themselves exact in x. So x lies on the same side of
+// every integer and half-integer as the exact quotient, and rounding x
+// rounds the exact quotient, ties included. 8u uses single precision
+// (|P| <= 255 * 2^15 < 2^23; at s = -16 every non-zero result saturates
+// anyway), 16u and 16s double precision (|P| < 2^48).
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "arith/div_engine.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
@@ -31,29 +34,32 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Elements [begin, begin + count) of one row; with `Alpha` every fourth
 // element (AC4 alpha) is neither read for the warning nor written.
 template <class T, bool Alpha>
-std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin,
-                          int count, int mode, int scale) {
+std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
+                          int scale) {
     using F = std::conditional_t<sizeof(T) == 1, float, double>;
     const hn::ScalableTag<F> df;
     const hn::Rebind<std::int32_t, decltype(df)> di;
     const hn::Rebind<T, decltype(df)> dt;
+    const hn::RebindToUnsigned<decltype(df)> dU;  // lane indices of the alpha mask
     const int lanes = static_cast<int>(hn::Lanes(df));
     const auto toF = [&](auto v) {
-        if constexpr (sizeof(T) == 1) return hn::ConvertTo(df, v);
-        else return hn::PromoteTo(df, v);
+        if constexpr (sizeof(T) == 1) return hn::ConvertTo(df, hn::PromoteTo(di, v));
+        else return hn::PromoteTo(df, hn::PromoteTo(di, v));
     };
-    const auto toInt = [&](auto v) {  // truncates; inputs are below 2^31
-        if constexpr (sizeof(T) == 1) return hn::ConvertTo(di, v);
-        else return hn::DemoteTo(di, v);
+    const auto toT = [&](auto integral) {  // exact: integral values within T's range
+        if constexpr (sizeof(T) == 1) return hn::DemoteTo(dt, hn::ConvertTo(di, integral));
+        else return hn::DemoteTo(dt, hn::DemoteTo(di, integral));
     };
-    const auto zeroF = hn::Zero(df);
-    const auto one = hn::Set(df, F(1));
     const auto numScale = hn::Set(df, F(std::ldexp(1.0, std::max(-scale, 0))));
     const auto denScale = hn::Set(df, F(std::ldexp(1.0, std::max(scale, 0))));
+    // A zero divisor becomes a tiny one: the quotient then saturates to the
+    // sign of the dividend, and 0 / tiny stays 0.
+    const auto tiny = hn::Set(df, F(std::ldexp(1.0, -30)));
     const auto lo = hn::Set(df, F(div::kLowest<T>));
     const auto hi = hn::Set(df, F(div::kHighest<T>));
-    const auto cap = hn::Set(df, F(1 << 20));  // beyond every saturation limit
-    // Increment for 2r > Q, and for 2r == Q the parts that depend on q's parity and not.
+    const auto half = hn::Set(df, F(0.5));
+    // Increments of the truncated magnitude above one half, and at exactly
+    // one half for an odd and for any truncated value.
     const auto aboveHalf = hn::Set(df, F(mode == div::kTowardZero ? 0 : 1));
     const auto tieIfOdd = hn::Set(df, F(mode == div::kNearestEven ? 1 : 0));
     const auto tieAlways = hn::Set(df, F(mode == div::kHalfAway ? 1 : 0));
@@ -62,31 +68,28 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
     int i = begin;
     const int end = begin + count;
     for (; i + lanes <= end; i += lanes) {
-        const auto ai = hn::PromoteTo(di, hn::LoadU(dt, divisor + i));
-        const auto a = toF(ai);
-        const auto b = toF(hn::PromoteTo(di, hn::LoadU(dt, dividend + i)));
-        const auto zero = hn::Eq(a, zeroF);
-        const auto Q = hn::IfThenElse(zero, one, hn::Mul(hn::Abs(a), denScale));
-        const auto P = hn::Mul(hn::Abs(b), numScale);
-        const auto qi = toInt(hn::Min(hn::Div(P, Q), cap));
-        const auto q = toF(qi);
-        const auto twoR = hn::Mul(hn::Sub(P, hn::Mul(q, Q)), hn::Set(df, F(2)));
-        const auto odd = toF(hn::And(qi, hn::Set(di, 1)));
-        const auto tie = hn::Add(hn::Mul(odd, tieIfOdd), tieAlways);
-        const auto rounded =
-            hn::Add(q, hn::IfThenElse(hn::Gt(twoR, Q), aboveHalf, hn::IfThenElseZero(hn::Eq(twoR, Q), tie)));
-        auto v = rounded;
-        if constexpr (std::is_signed_v<T>) v = hn::IfThenElse(hn::Lt(hn::Mul(a, b), zeroF), hn::Neg(v), v);
-        v = hn::Min(hn::Max(v, lo), hi);
-        const auto zeroDivisorValue =
-            hn::IfThenElse(hn::Gt(b, zeroF), hi, hn::IfThenElseZero(hn::Lt(b, zeroF), lo));
-        const auto out = hn::DemoteTo(dt, toInt(hn::IfThenElse(zero, zeroDivisorValue, v)));
+        const auto a = toF(hn::LoadU(dt, divisor + i));
+        const auto zero = hn::Eq(a, hn::Zero(df));
+        const auto Q = hn::IfThenElse(zero, tiny, hn::Mul(a, denScale));
+        const auto x = hn::Min(hn::Max(hn::Div(hn::Mul(toF(hn::LoadU(dt, dividend + i)), numScale), Q), lo), hi);
+        hn::Vec<decltype(df)> q;
+        if (mode == div::kNearestEven) {
+            q = hn::Round(x);
+        } else {
+            const auto t = hn::Trunc(x);
+            const auto frac = hn::Abs(hn::Sub(x, t));
+            const auto odd = hn::Ne(hn::Trunc(hn::Mul(t, half)), hn::Mul(t, half));
+            const auto tie = hn::IfThenElse(odd, hn::Add(tieIfOdd, tieAlways), tieAlways);
+            const auto up = hn::IfThenElse(hn::Gt(frac, half), aboveHalf, hn::IfThenElseZero(hn::Eq(frac, half), tie));
+            q = hn::Add(t, hn::CopySign(up, x));
+        }
+        const auto out = toT(q);
         if constexpr (Alpha) {
             const int phase = i & 3;
             const auto keepT = hn::Ne(hn::And(hn::Iota(dt, phase), hn::Set(dt, T(3))), hn::Set(dt, T(3)));
-            const auto keepI = hn::Ne(hn::And(hn::Iota(di, phase), hn::Set(di, 3)), hn::Set(di, 3));
+            const auto keepF = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(dU, phase), hn::Set(dU, 3)), hn::Set(dU, 3)));
             hn::BlendedStore(out, keepT, dt, dst + i);
-            zeros += hn::CountTrue(di, hn::And(hn::Eq(ai, hn::Zero(di)), keepI));
+            zeros += hn::CountTrue(df, hn::And(zero, keepF));
         } else {
             hn::StoreU(out, dt, dst + i);
             zeros += hn::CountTrue(df, zero);
