@@ -1,9 +1,9 @@
 // Division kernels and the row loop that drives them.
 //
 // The 8u, 16u and 16s kernels divide in floating point and still give the
-// exact rounded quotient. P = dividend * 2^max(-s,0) and
-// Q = divisor * 2^max(s,0) are exact (the scale factor has been moved into
-// its band, see bandScale), and x = P / Q is correctly rounded. An exact
+// exact rounded quotient. With P = dividend * 2^max(-s,0) and
+// Q = divisor * 2^max(s,0) (integers; the scale factor has been moved into
+// its band, see bandScale), x = fl(P / Q) is correctly rounded. An exact
 // quotient that is not an integer lies at least 1/Q away from every
 // integer, one that is not a half-integer at least 1/(2Q) away from every
 // half-integer, while x is off by at most |P/Q| * 2^-p for a p-bit
@@ -22,6 +22,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <type_traits>
 
 #include "arith/div_rounding.h"
@@ -38,23 +39,26 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
                           int scale) {
     using F = std::conditional_t<sizeof(T) == 1, float, double>;
     const hn::ScalableTag<F> df;
+    const hn::RebindToUnsigned<decltype(df)> du;
     const hn::Rebind<std::int32_t, decltype(df)> di;
     const hn::Rebind<T, decltype(df)> dt;
-    const hn::RebindToUnsigned<decltype(df)> dU;  // lane indices of the alpha mask
+    const hn::Rebind<std::make_unsigned_t<T>, decltype(df)> dtu;
     const int lanes = static_cast<int>(hn::Lanes(df));
-    const auto toF = [&](auto v) {
-        if constexpr (sizeof(T) == 1) return hn::ConvertTo(df, hn::PromoteTo(di, v));
-        else return hn::PromoteTo(df, hn::PromoteTo(di, v));
+    const auto load = [&](const T* p) {
+        if constexpr (sizeof(T) == 1) return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+        else return hn::PromoteTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
     };
-    const auto toT = [&](auto integral) {  // exact: integral values within T's range
-        if constexpr (sizeof(T) == 1) return hn::DemoteTo(dt, hn::ConvertTo(di, integral));
-        else return hn::DemoteTo(dt, hn::DemoteTo(di, integral));
+    // Adding 1.5 * 2^(p-1) to an integral value in T's range puts it, in
+    // two's complement, into the low bits of the significand.
+    const auto magic = hn::Set(df, F(std::ldexp(1.5, std::numeric_limits<F>::digits - 1)));
+    const auto toT = [&](auto integral) {
+        return hn::BitCast(dt, hn::TruncateTo(dtu, hn::BitCast(du, hn::Add(integral, magic))));
     };
-    const auto numScale = hn::Set(df, F(std::ldexp(1.0, std::max(-scale, 0))));
-    const auto denScale = hn::Set(df, F(std::ldexp(1.0, std::max(scale, 0))));
-    // A zero divisor becomes a tiny one: the quotient then saturates to the
-    // sign of the dividend, and 0 / tiny stays 0.
-    const auto tiny = hn::Set(df, F(std::ldexp(1.0, -30)));
+    // x = dividend / (divisor * 2^s) is the quotient (dividend * 2^-s) / divisor
+    // exactly rounded. A zero divisor becomes a tiny one: the quotient then
+    // saturates to the sign of the dividend, and 0 / tiny stays 0.
+    const auto divisorScale = hn::Set(df, F(std::ldexp(1.0, scale)));
+    const auto tiny = hn::Set(df, F(std::ldexp(1.0, -40)));
     const auto lo = hn::Set(df, F(div::kLowest<T>));
     const auto hi = hn::Set(df, F(div::kHighest<T>));
     const auto half = hn::Set(df, F(0.5));
@@ -68,10 +72,11 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
     int i = begin;
     const int end = begin + count;
     for (; i + lanes <= end; i += lanes) {
-        const auto a = toF(hn::LoadU(dt, divisor + i));
+        const auto a = load(divisor + i);
         const auto zero = hn::Eq(a, hn::Zero(df));
-        const auto Q = hn::IfThenElse(zero, tiny, hn::Mul(a, denScale));
-        const auto x = hn::Min(hn::Max(hn::Div(hn::Mul(toF(hn::LoadU(dt, dividend + i)), numScale), Q), lo), hi);
+        auto x = hn::Div(load(dividend + i), hn::IfThenElse(zero, tiny, hn::Mul(a, divisorScale)));
+        x = hn::Min(x, hi);
+        if constexpr (std::is_signed_v<T>) x = hn::Max(x, lo);
         hn::Vec<decltype(df)> q;
         if (mode == div::kNearestEven) {
             q = hn::Round(x);
@@ -86,9 +91,9 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
         const auto out = toT(q);
         if constexpr (Alpha) {
             const int phase = i & 3;
-            const auto keepT = hn::Ne(hn::And(hn::Iota(dt, phase), hn::Set(dt, T(3))), hn::Set(dt, T(3)));
-            const auto keepF = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(dU, phase), hn::Set(dU, 3)), hn::Set(dU, 3)));
-            hn::BlendedStore(out, keepT, dt, dst + i);
+            const auto keepT = hn::Ne(hn::And(hn::Iota(dtu, phase), hn::Set(dtu, 3)), hn::Set(dtu, 3));
+            const auto keepF = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
+            hn::BlendedStore(out, hn::RebindMask(dt, keepT), dt, dst + i);
             zeros += hn::CountTrue(df, hn::And(zero, keepF));
         } else {
             hn::StoreU(out, dt, dst + i);

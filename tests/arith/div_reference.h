@@ -45,7 +45,7 @@ inline i128 roundDiv(i128 num, i128 den, int mode) {
 // num * 2^-s / den for den != 0.
 inline i128 scaled(i128 num, i128 den, int s, int mode) {
     if (den < 0) num = -num, den = -den;
-    return s >= 0 ? roundDiv(num, den << s, mode) : roundDiv(num << -s, den, mode);
+    return s >= 0 ? roundDiv(num, den << s, mode) : roundDiv(num * (i128{1} << -s), den, mode);
 }
 
 template <class P>
