@@ -18,6 +18,8 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
+#include <hwy/cache_control.h>
+
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -36,7 +38,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 // element (AC4 alpha) is neither read for the warning nor written.
 template <class T, bool Alpha>
 std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
-                          int scale) {
+                          int scale, bool /*stream*/) {
     using F = std::conditional_t<sizeof(T) == 1, float, double>;
     const hn::ScalableTag<F> df;
     const hn::RebindToUnsigned<decltype(df)> du;
@@ -106,34 +108,48 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
 }
 
 // IEEE single-precision division; zero divisors (either sign) are counted.
+// With `stream` (large images) the stores bypass the caches once the
+// destination is vector-aligned.
 template <bool Alpha>
-std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst,
-                            int begin, int count, int /*mode*/, int /*scale*/) {
+std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst, int begin, int count,
+                            int /*mode*/, int /*scale*/, bool stream) {
     const hn::ScalableTag<float> df;
     const hn::RebindToSigned<decltype(df)> di;
     const int lanes = static_cast<int>(hn::Lanes(df));
-    // Lanes are a multiple of 4, so the alpha lanes sit at the same place in every vector.
-    const auto keep = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(di, begin & 3), hn::Set(di, 3)), hn::Set(di, 3)));
     std::int64_t zeros = 0;
+    const auto one = [&](int i) {
+        if (Alpha && (i & 3) == 3) return;
+        zeros += divisor[i] == 0.0f;
+        dst[i] = dividend[i] / divisor[i];
+    };
     int i = begin;
     const int end = begin + count;
+    const auto misaligned = [&] { return reinterpret_cast<std::uintptr_t>(dst + i) % (lanes * sizeof(float)) != 0; };
+    stream = stream && !Alpha;
+    if (stream) {
+        while (i < end && i < begin + lanes && misaligned()) one(i++);
+        stream = !misaligned();
+    }
+    // Lanes are a multiple of 4, so the alpha lanes sit at the same place in every vector.
+    const auto keep = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(di, i & 3), hn::Set(di, 3)), hn::Set(di, 3)));
+    auto zeroLanes = hn::Zero(di);  // zero divisors per lane (a true mask is -1)
     for (; i + lanes <= end; i += lanes) {
         const auto a = hn::LoadU(df, divisor + i);
         const auto q = hn::Div(hn::LoadU(df, dividend + i), a);
-        const auto zero = hn::Eq(a, hn::Zero(df));
+        auto zero = hn::Eq(a, hn::Zero(df));
         if constexpr (Alpha) {
             hn::BlendedStore(q, keep, df, dst + i);
-            zeros += hn::CountTrue(df, hn::And(zero, keep));
+            zero = hn::And(zero, keep);
+        } else if (stream) {
+            hn::Stream(q, df, dst + i);
         } else {
             hn::StoreU(q, df, dst + i);
-            zeros += hn::CountTrue(df, zero);
         }
+        zeroLanes = hn::Sub(zeroLanes, hn::VecFromMask(di, hn::RebindMask(di, zero)));
     }
-    for (; i < end; ++i)
-        if (!Alpha || (i & 3) != 3) {
-            zeros += divisor[i] == 0.0f;
-            dst[i] = dividend[i] / divisor[i];
-        }
+    if (stream) hwy::FlushStream();
+    zeros += hn::GetLane(hn::SumOfLanes(di, zeroLanes));
+    for (; i < end; ++i) one(i);
     return zeros;
 }
 
@@ -154,7 +170,7 @@ namespace {
 // Complex rows stay scalar: their 128-bit intermediates have no vector form.
 template <class T, bool Alpha>
 std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int begin, int count,
-                              int mode, int scale) {
+                              int mode, int scale, bool /*stream*/) {
     std::int64_t warnings = 0;
     for (int i = begin; i < begin + count; ++i) {
         if (Alpha && (i & 3) == 3) continue;
@@ -171,6 +187,10 @@ template <class T>
 constexpr int kSplitThreshold = std::is_same_v<T, Zel32f> ? 4096
                                 : std::is_same_v<T, Zel16sc> || std::is_same_v<T, Zel32sc> ? 256
                                                                                             : 1024;
+
+// Results larger than this many bytes are stored past the caches (where a
+// kernel can), like large fills: they would only evict the operands.
+constexpr std::int64_t kStreamBytes = 4194304;
 
 template <class T, bool Alpha>
 auto rowKernel() {
@@ -191,13 +211,15 @@ std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, i
     const int length = work.width * C;
     const auto row = rowKernel<T, L == Layout::AC4>();
     const int s = bandScale<T>(scale);
+    const bool stream = std::int64_t{roi.width} * roi.height * C * sizeof(T) > kStreamBytes;
     std::int64_t warnings = 0;
     for (int y = 0; y < work.height; ++y) {
         const T* a = rowAt(divisor, divisorStep, y);
         const T* b = rowAt(dividend, dividendStep, y);
         T* out = rowAt(dst, dstStep, y);
-        warnings += splitVector(length, kSplitThreshold<T>,
-                                [&](int begin, int count) { return row(a, b, out, begin, count, mode, s); });
+        warnings += splitVector(length, kSplitThreshold<T>, [&](int begin, int count) {
+            return row(a, b, out, begin, count, mode, s, stream);
+        });
     }
     return warnings;
 }

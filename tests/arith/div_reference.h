@@ -15,23 +15,14 @@ namespace divref {
 using i128 = __int128;
 
 template <class T>
-struct Part {
-    using type = T;
-};
-template <>
-struct Part<Zel16sc> {
-    using type = Zel16s;
-};
-template <>
-struct Part<Zel32sc> {
-    using type = Zel32s;
-};
-template <>
-struct Part<Zel32fc> {
-    using type = Zel32f;
-};
+constexpr bool kComplex = std::is_class_v<T>;
 template <class T>
-constexpr bool kComplex = !std::is_same_v<typename Part<T>::type, T>;
+auto partOf() {
+    if constexpr (kComplex<T>) return T{}.re;
+    else return T{};
+}
+template <class T>
+using Part = decltype(partOf<T>());
 
 // num / den (den > 0) rounded: 0 toward zero, 1 nearest even, 2 half away.
 inline i128 roundDiv(i128 num, i128 den, int mode) {
@@ -74,7 +65,7 @@ T real(T a, T b, int s, int mode) {
 // b / a for 16sc and 32sc: (b * conj(a)) / |a|^2 per part; the 16sc bands.
 template <class C>
 C complex(C a, C b, int s, int mode) {
-    using P = typename Part<C>::type;
+    using P = Part<C>;
     const bool is16 = std::is_same_v<C, Zel16sc>;
     const i128 re = i128{a.re} * b.re + i128{a.im} * b.im, im = i128{a.re} * b.im - i128{b.re} * a.im;
     const i128 den = i128{a.re} * a.re + i128{a.im} * a.im;
@@ -139,7 +130,7 @@ P sample(std::mt19937& rng) {
 template <class T>
 T sampleElement(std::mt19937& rng) {
     if constexpr (kComplex<T>) {
-        using P = typename Part<T>::type;
+        using P = Part<T>;
         const P re = sample<P>(rng);
         return T{re, sample<P>(rng)};
     } else {

@@ -166,6 +166,11 @@ TEST(DivMembers, RowsAroundTheSplitThreshold) {
     checkSplit(members32fc()[0], 1024);
 }
 
+// Results above the cache-bypass size take the streaming stores.
+TEST(DivMembers, LargeFloatImages) {
+    zel::test::forEachConfig([&] { checkCall(members32f()[0], {1031, 1100}, 4, 1, 0, 5); });
+}
+
 // Rows without padding are divided as one long row.
 TEST(DivMembers, ContiguousRowsGiveTheSameResult) {
     const ZeliSize roi{700, 5};
