@@ -70,13 +70,15 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
     const auto tieIfOdd = hn::Set(df, F(mode == div::kNearestEven ? 1 : 0));
     const auto tieAlways = hn::Set(df, F(mode == div::kHalfAway ? 1 : 0));
 
-    std::int64_t zeros = 0;
+    const hn::RebindToSigned<decltype(df)> ds;
+    auto zeroLanes = hn::Zero(ds);  // zero divisors per lane (a true mask is -1)
     int i = begin;
     const int end = begin + count;
     for (; i + lanes <= end; i += lanes) {
         const auto a = load(divisor + i);
-        const auto zero = hn::Eq(a, hn::Zero(df));
-        auto x = hn::Div(load(dividend + i), hn::IfThenElse(zero, tiny, hn::Mul(a, divisorScale)));
+        auto zero = hn::Eq(a, hn::Zero(df));
+        const auto scaled = scale == 0 ? a : hn::Mul(a, divisorScale);
+        auto x = hn::Div(load(dividend + i), hn::IfThenElse(zero, tiny, scaled));
         x = hn::Min(x, hi);
         if constexpr (std::is_signed_v<T>) x = hn::Max(x, lo);
         hn::Vec<decltype(df)> q;
@@ -96,12 +98,13 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
             const auto keepT = hn::Ne(hn::And(hn::Iota(dtu, phase), hn::Set(dtu, 3)), hn::Set(dtu, 3));
             const auto keepF = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
             hn::BlendedStore(out, hn::RebindMask(dt, keepT), dt, dst + i);
-            zeros += hn::CountTrue(df, hn::And(zero, keepF));
+            zero = hn::And(zero, keepF);
         } else {
             hn::StoreU(out, dt, dst + i);
-            zeros += hn::CountTrue(df, zero);
         }
+        zeroLanes = hn::Sub(zeroLanes, hn::VecFromMask(ds, hn::RebindMask(ds, zero)));
     }
+    std::int64_t zeros = hn::GetLane(hn::SumOfLanes(ds, zeroLanes));
     for (; i < end; ++i)
         if (!Alpha || (i & 3) != 3) dst[i] = div::divideReal(divisor[i], dividend[i], scale, mode, zeros);
     return zeros;
