@@ -24,23 +24,29 @@ template <class T>
 void registerPair(const char* group, int type,
                   ZelStatus (*div)(const T*, int, const T*, int, T*, int, ZeliSize, int)) {
     const auto bytes = [](ZeliSize s) { return 3.0 * s.width * s.height * sizeof(T); };
-    registerSized(group, "zeli", [=](benchmark::State& state, ZeliSize s) {
-        const cv::Mat divisor = randomImage<T>(s, type, 1), dividend = randomImage<T>(s, type, 2);
-        cv::Mat dst(s.height, s.width, type);
-        for (auto _ : state) {
-            div(divisor.ptr<T>(), int(divisor.step), dividend.ptr<T>(), int(dividend.step), dst.ptr<T>(),
-                int(dst.step), s, 0);
-            benchmark::ClobberMemory();
-        }
-    }, bytes);
-    registerSized(group, "opencv", [=](benchmark::State& state, ZeliSize s) {
-        const cv::Mat divisor = randomImage<T>(s, type, 1), dividend = randomImage<T>(s, type, 2);
-        cv::Mat dst(s.height, s.width, type);
-        for (auto _ : state) {
-            cv::divide(dividend, divisor, dst);
-            benchmark::ClobberMemory();
-        }
-    }, bytes);
+    registerSized(
+        group, "zeli",
+        [=](benchmark::State& state, ZeliSize s) {
+            const cv::Mat divisor = randomImage<T>(s, type, 1), dividend = randomImage<T>(s, type, 2);
+            cv::Mat dst(s.height, s.width, type);
+            for (auto _ : state) {
+                div(divisor.ptr<T>(), int(divisor.step), dividend.ptr<T>(), int(dividend.step), dst.ptr<T>(),
+                    int(dst.step), s, 0);
+                benchmark::ClobberMemory();
+            }
+        },
+        bytes);
+    registerSized(
+        group, "opencv",
+        [=](benchmark::State& state, ZeliSize s) {
+            const cv::Mat divisor = randomImage<T>(s, type, 1), dividend = randomImage<T>(s, type, 2);
+            cv::Mat dst(s.height, s.width, type);
+            for (auto _ : state) {
+                cv::divide(dividend, divisor, dst);
+                benchmark::ClobberMemory();
+            }
+        },
+        bytes);
 }
 
 ZelStatus div32f(const Zel32f* a, int as, const Zel32f* b, int bs, Zel32f* d, int ds, ZeliSize s, int) {

@@ -47,8 +47,10 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
     const hn::Rebind<std::make_unsigned_t<T>, decltype(df)> dtu;
     const int lanes = static_cast<int>(hn::Lanes(df));
     const auto load = [&](const T* p) {
-        if constexpr (sizeof(T) == 1) return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
-        else return hn::PromoteTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+        if constexpr (sizeof(T) == 1)
+            return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+        else
+            return hn::PromoteTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
     };
     // Adding 1.5 * 2^(p-1) to an integral value in T's range puts it, in
     // two's complement, into the low bits of the significand.
@@ -89,14 +91,16 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
             const auto frac = hn::Abs(hn::Sub(x, t));
             const auto odd = hn::Ne(hn::Trunc(hn::Mul(t, half)), hn::Mul(t, half));
             const auto tie = hn::IfThenElse(odd, hn::Add(tieIfOdd, tieAlways), tieAlways);
-            const auto up = hn::IfThenElse(hn::Gt(frac, half), aboveHalf, hn::IfThenElseZero(hn::Eq(frac, half), tie));
+            const auto up =
+                hn::IfThenElse(hn::Gt(frac, half), aboveHalf, hn::IfThenElseZero(hn::Eq(frac, half), tie));
             q = hn::Add(t, hn::CopySign(up, x));
         }
         const auto out = toT(q);
         if constexpr (Alpha) {
             const int phase = i & 3;
             const auto keepT = hn::Ne(hn::And(hn::Iota(dtu, phase), hn::Set(dtu, 3)), hn::Set(dtu, 3));
-            const auto keepF = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
+            const auto keepF =
+                hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
             hn::BlendedStore(out, hn::RebindMask(dt, keepT), dt, dst + i);
             zero = hn::And(zero, keepF);
         } else {
@@ -127,14 +131,17 @@ std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* 
     };
     int i = begin;
     const int end = begin + count;
-    const auto misaligned = [&] { return reinterpret_cast<std::uintptr_t>(dst + i) % (lanes * sizeof(float)) != 0; };
+    const auto misaligned = [&] {
+        return reinterpret_cast<std::uintptr_t>(dst + i) % (lanes * sizeof(float)) != 0;
+    };
     stream = stream && !Alpha;
     if (stream) {
         while (i < end && i < begin + lanes && misaligned()) one(i++);
         stream = !misaligned();
     }
     // Lanes are a multiple of 4, so the alpha lanes sit at the same place in every vector.
-    const auto keep = hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(di, i & 3), hn::Set(di, 3)), hn::Set(di, 3)));
+    const auto keep =
+        hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(di, i & 3), hn::Set(di, 3)), hn::Set(di, 3)));
     auto zeroLanes = hn::Zero(di);  // zero divisors per lane (a true mask is -1)
     for (; i + lanes <= end; i += lanes) {
         const auto a = hn::LoadU(df, divisor + i);
@@ -172,13 +179,15 @@ namespace {
 
 // Complex rows stay scalar: their 128-bit intermediates have no vector form.
 template <class T, bool Alpha>
-std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int begin, int count,
-                              int mode, int scale, bool /*stream*/) {
+std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
+                              int scale, bool /*stream*/) {
     std::int64_t warnings = 0;
     for (int i = begin; i < begin + count; ++i) {
         if (Alpha && (i & 3) == 3) continue;
-        if constexpr (std::is_same_v<T, Zel32fc>) dst[i] = divideComplex(divisor[i], dividend[i], warnings);
-        else dst[i] = divideComplex(divisor[i], dividend[i], scale, mode, warnings);
+        if constexpr (std::is_same_v<T, Zel32fc>)
+            dst[i] = divideComplex(divisor[i], dividend[i], warnings);
+        else
+            dst[i] = divideComplex(divisor[i], dividend[i], scale, mode, warnings);
     }
     return warnings;
 }
@@ -187,9 +196,11 @@ std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int b
 // division costs more per element than the fork, the more so for complex
 // elements. 16u and 32fc follow their closest relatives (16s, 16sc).
 template <class T>
-constexpr int kSplitThreshold = std::is_same_v<T, Zel32f> ? 4096
-                                : std::is_same_v<T, Zel16sc> || std::is_same_v<T, Zel32sc> ? 256
-                                                                                            : 1024;
+constexpr int splitThreshold() {
+    if constexpr (std::is_same_v<T, Zel32f>) return 4096;
+    if constexpr (std::is_same_v<T, Zel16sc> || std::is_same_v<T, Zel32sc>) return 256;
+    return 1024;
+}
 
 // Results larger than this many bytes are stored past the caches (where a
 // kernel can), like large fills: they would only evict the operands.
@@ -197,19 +208,22 @@ constexpr std::int64_t kStreamBytes = 4194304;
 
 template <class T, bool Alpha>
 auto rowKernel() {
-    if constexpr (std::is_same_v<T, Zel32f>) return ZEL_DISPATCH(DivideFloatRow<Alpha>);
-    else if constexpr (std::is_integral_v<T>) return ZEL_DISPATCH(DivideIntRow<T, Alpha>);
-    else return &divideComplexRow<T, Alpha>;
+    if constexpr (std::is_same_v<T, Zel32f>)
+        return ZEL_DISPATCH(DivideFloatRow<Alpha>);
+    else if constexpr (std::is_integral_v<T>)
+        return ZEL_DISPATCH(DivideIntRow<T, Alpha>);
+    else
+        return &divideComplexRow<T, Alpha>;
 }
 
 }  // namespace
 
 template <class T, Layout L>
-std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep,
-                         T* dst, int dstStep, ZeliSize roi, int mode, int scale) {
+std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep, T* dst,
+                         int dstStep, ZeliSize roi, int mode, int scale) {
     constexpr int C = kChannels<L>;
-    ZeliSize work = collapseRows(roi, std::int64_t{roi.width} * C * sizeof(T),
-                                 {divisorStep, dividendStep, dstStep});
+    ZeliSize work =
+        collapseRows(roi, std::int64_t{roi.width} * C * sizeof(T), {divisorStep, dividendStep, dstStep});
     if (std::int64_t{work.width} * C > INT32_MAX) work = roi;
     const int length = work.width * C;
     const auto row = rowKernel<T, L == Layout::AC4>();
@@ -220,16 +234,16 @@ std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, i
         const T* a = rowAt(divisor, divisorStep, y);
         const T* b = rowAt(dividend, dividendStep, y);
         T* out = rowAt(dst, dstStep, y);
-        warnings += splitVector(length, kSplitThreshold<T>, [&](int begin, int count) {
+        warnings += splitVector(length, splitThreshold<T>(), [&](int begin, int count) {
             return row(a, b, out, begin, count, mode, s, stream);
         });
     }
     return warnings;
 }
 
-#define ZEL_DIVIDE_IMAGE(T, L)                                                                  \
-    template std::int64_t divideImage<T, Layout::L>(const T*, int, const T*, int, T*, int, ZeliSize, \
-                                                    int, int);
+#define ZEL_DIVIDE_IMAGE(T, L)                                                                            \
+    template std::int64_t divideImage<T, Layout::L>(const T*, int, const T*, int, T*, int, ZeliSize, int, \
+                                                    int);
 #define ZEL_DIVIDE_IMAGE_3(T) ZEL_DIVIDE_IMAGE(T, C1) ZEL_DIVIDE_IMAGE(T, C3) ZEL_DIVIDE_IMAGE(T, AC4)
 #define ZEL_DIVIDE_IMAGE_4(T) ZEL_DIVIDE_IMAGE_3(T) ZEL_DIVIDE_IMAGE(T, C4)
 

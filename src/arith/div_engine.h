@@ -19,14 +19,14 @@ namespace zel::div {
 // every row of the ROI. Each row's elements are split between at most two
 // threads once the row is long enough (see kSplitThreshold).
 template <class T, Layout L>
-std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep,
-                         T* dst, int dstStep, ZeliSize roi, int mode, int scale);
+std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep, T* dst,
+                         int dstStep, ZeliSize roi, int mode, int scale);
 
 // Div and Div_Round: null pointers, ROI size, steps, then (Div_Round only)
 // the rounding mode; a zero divisor anywhere gives the warning.
 template <class T, Layout L>
-ZelStatus divideChecked(const T* divisor, int divisorStep, const T* dividend, int dividendStep,
-                        T* dst, int dstStep, ZeliSize roi, int mode, bool checkMode, int scale) {
+ZelStatus divideChecked(const T* divisor, int divisorStep, const T* dividend, int dividendStep, T* dst,
+                        int dstStep, ZeliSize roi, int mode, bool checkMode, int scale) {
     if (ZelStatus st = Check()
                            .ptrs(divisor, dividend, dst)
                            .roi(roi)

@@ -141,8 +141,13 @@ inline C divideComplex(C a, C b, int s, int mode, std::int64_t& warnings) {
     }
     const i128 re = i128{a.re} * b.re + i128{a.im} * b.im;
     const i128 im = i128{a.re} * b.im - i128{b.re} * a.im;
-    if (k16sc && s < -32) return C{saturatedSign<P>(re > 0 ? 1 : re < 0 ? -1 : 0),
-                                   saturatedSign<P>(im > 0 ? 1 : im < 0 ? -1 : 0)};
+    if (k16sc && s < -32)
+        return C{saturatedSign<P>(re > 0   ? 1
+                                  : re < 0 ? -1
+                                           : 0),
+                 saturatedSign<P>(im > 0   ? 1
+                                  : im < 0 ? -1
+                                           : 0)};
     const auto part = [&](i128 n) {
         const std::uint64_t m = static_cast<std::uint64_t>(n < 0 ? -n : n);  // |n| <= 2^63
         return signedResult<P>(n < 0, scaledQuotient(m, den, s, mode));

@@ -2,11 +2,13 @@
 //
 // A zero constant (any channel's; 0 + 0i for complex members) returns
 // zelStatusDivByZero after the pointer, size and step checks, with nothing
-// written. The integer and complex members give exactly what Div gives
-// with a divisor image holding the constant; as the constant is never
-// zero they never warn. The 32f members multiply by the single-precision
-// reciprocal 1 / c instead of dividing, as a MulC with that reciprocal
-// would: x * (1 / c), which may differ from x / c in the last bit.
+// written. The integer and complex members give exactly the values Div
+// gives with a divisor image holding the constant, and never warn: the
+// constant is not zero, and the 16sc top-band pairing of divisor real part
+// and dividend imaginary part does not raise a warning here either. The
+// 32f members multiply by the single-precision reciprocal 1 / c instead of
+// dividing, as a MulC with that reciprocal would: x * (1 / c), which may
+// differ from x / c in the last bit.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "arith/divc.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
@@ -66,8 +68,10 @@ namespace {
 
 template <class T>
 bool isZero(const T& v) {
-    if constexpr (std::is_arithmetic_v<T>) return v == T(0);
-    else return v.re == 0 && v.im == 0;
+    if constexpr (std::is_arithmetic_v<T>)
+        return v == T(0);
+    else
+        return v.re == 0 && v.im == 0;
 }
 
 // x * (1 / c) per channel. Like the 32f constant multiplications, the
@@ -83,9 +87,8 @@ void multiplyByReciprocal(const float* src, int srcStep, const float* value, flo
     const bool fork = rowSplit && roi.width + roi.height >= 256;
     const ZeliSize rows = collapseRows(roi, std::int64_t{roi.width} * C * sizeof(float), {srcStep, dstStep});
     const auto row = ZEL_DISPATCH(MulConstRow<C, kComputed<L>>);
-    forEachRow(rows.height, fork, [&](int y) {
-        row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rows.width, reciprocal);
-    });
+    forEachRow(rows.height, fork,
+               [&](int y) { row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rows.width, reciprocal); });
 }
 
 template <class T, Layout L>
@@ -118,19 +121,20 @@ ZelStatus divideByConstant(const T* src, int srcStep, const T* value, T* dst, in
 
 // C1 members take the constant itself, the others an array (3 values for
 // C3 and AC4, 4 for C4). In-place members take the constant first.
-#define ZELI_DIVC_FORMS(t, layout, valueParam, valuePtr, sfsName, sfsParam, sfsArg)                   \
-    ZelStatus zeliDivC_##t##_##layout##R##sfsName(const Zel##t* pSrc, int srcStep, valueParam,        \
-                                                  Zel##t* pDst, int dstStep, ZeliSize roi sfsParam) { \
-        return zel::div::divideByConstant<Zel##t, zel::Layout::layout>(pSrc, srcStep, valuePtr, pDst,  \
-                                                                       dstStep, roi, sfsArg);          \
-    }                                                                                                  \
-    ZelStatus zeliDivC_##t##_##layout##IR##sfsName(valueParam, Zel##t* pSrcDst, int srcDstStep,       \
-                                                   ZeliSize roi sfsParam) {                            \
-        return zel::div::divideByConstant<Zel##t, zel::Layout::layout>(                                \
-            pSrcDst, srcDstStep, valuePtr, pSrcDst, srcDstStep, roi, sfsArg);                          \
+#define ZELI_DIVC_FORMS(t, layout, valueParam, valuePtr, sfsName, sfsParam, sfsArg)                          \
+    ZelStatus zeliDivC_##t##_##layout##R##sfsName(const Zel##t* pSrc, int srcStep, valueParam, Zel##t* pDst, \
+                                                  int dstStep, ZeliSize roi sfsParam) {                      \
+        return zel::div::divideByConstant<Zel##t, zel::Layout::layout>(pSrc, srcStep, valuePtr, pDst,        \
+                                                                       dstStep, roi, sfsArg);                \
+    }                                                                                                        \
+    ZelStatus zeliDivC_##t##_##layout##IR##sfsName(valueParam, Zel##t* pSrcDst, int srcDstStep,              \
+                                                   ZeliSize roi sfsParam) {                                  \
+        return zel::div::divideByConstant<Zel##t, zel::Layout::layout>(pSrcDst, srcDstStep, valuePtr,        \
+                                                                       pSrcDst, srcDstStep, roi, sfsArg);    \
     }
 #define ZELI_COMMA ,
-#define ZELI_DIVC_SFS_C1(t) ZELI_DIVC_FORMS(t, C1, Zel##t value, &value, Sfs, ZELI_COMMA int scaleFactor, scaleFactor)
+#define ZELI_DIVC_SFS_C1(t) \
+    ZELI_DIVC_FORMS(t, C1, Zel##t value, &value, Sfs, ZELI_COMMA int scaleFactor, scaleFactor)
 #define ZELI_DIVC_SFS(t, layout) \
     ZELI_DIVC_FORMS(t, layout, const Zel##t value[], value, Sfs, ZELI_COMMA int scaleFactor, scaleFactor)
 #define ZELI_DIVC_FLOAT_C1(t) ZELI_DIVC_FORMS(t, C1, Zel##t value, &value, , , 0)

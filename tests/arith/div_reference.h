@@ -18,8 +18,10 @@ template <class T>
 constexpr bool kComplex = std::is_class_v<T>;
 template <class T>
 auto partOf() {
-    if constexpr (kComplex<T>) return T{}.re;
-    else return T{};
+    if constexpr (kComplex<T>)
+        return T{}.re;
+    else
+        return T{};
 }
 template <class T>
 using Part = decltype(partOf<T>());
@@ -83,9 +85,12 @@ inline Zel32fc floating(Zel32fc a, Zel32fc b, int, int) {
 
 template <class T>
 T quotient(T a, T b, int s, int mode) {
-    if constexpr (std::is_same_v<T, Zel32f> || std::is_same_v<T, Zel32fc>) return floating(a, b, s, mode);
-    else if constexpr (kComplex<T>) return complex(a, b, s, mode);
-    else return real(a, b, s, mode);
+    if constexpr (std::is_same_v<T, Zel32f> || std::is_same_v<T, Zel32fc>)
+        return floating(a, b, s, mode);
+    else if constexpr (kComplex<T>)
+        return complex(a, b, s, mode);
+    else
+        return real(a, b, s, mode);
 }
 
 // Whether the element raises the warning: a zero divisor, or for 16sc
@@ -95,15 +100,20 @@ template <class T>
 bool warns(T a, T b, int s) {
     if constexpr (std::is_same_v<T, Zel16sc>)
         if (s > 32) return a.re == 0 && b.im == 0;
-    if constexpr (kComplex<T>) return a.re == 0 && a.im == 0;
-    else return a == 0;
+    if constexpr (kComplex<T>)
+        return a.re == 0 && a.im == 0;
+    else
+        return a == 0;
 }
 
 template <class T>
 bool same(T x, T y) {
-    if constexpr (kComplex<T>) return same(x.re, y.re) && same(x.im, y.im);
-    else if constexpr (std::is_floating_point_v<T>) return x == y || (x != x && y != y);
-    else return x == y;
+    if constexpr (kComplex<T>)
+        return same(x.re, y.re) && same(x.im, y.im);
+    else if constexpr (std::is_floating_point_v<T>)
+        return x == y || (x != x && y != y);
+    else
+        return x == y;
 }
 
 // Test values: many zeros, the extremes and values next to them, small
@@ -112,18 +122,27 @@ template <class P>
 P sample(std::mt19937& rng) {
     if constexpr (std::is_floating_point_v<P>) {
         switch (rng() % 8) {
-            case 0: return rng() % 2 ? 0.0f : -0.0f;
-            case 1: return std::uniform_real_distribution<P>(-1e-3f, 1e-3f)(rng);
-            default: return std::uniform_real_distribution<P>(-1000, 1000)(rng);
+            case 0:
+                return rng() % 2 ? 0.0f : -0.0f;
+            case 1:
+                return std::uniform_real_distribution<P>(-1e-3f, 1e-3f)(rng);
+            default:
+                return std::uniform_real_distribution<P>(-1000, 1000)(rng);
         }
     } else {
         using L = std::numeric_limits<P>;
         switch (rng() % 10) {
-            case 0: case 1: return 0;
-            case 2: return L::lowest() + P(rng() % 2);
-            case 3: return P(L::max() - P(rng() % 2));
-            case 4: return P(int(rng() % 17) - (std::is_signed_v<P> ? 8 : 0));
-            default: return P(std::uniform_int_distribution<std::int64_t>(L::lowest(), L::max())(rng));
+            case 0:
+            case 1:
+                return 0;
+            case 2:
+                return L::lowest() + P(rng() % 2);
+            case 3:
+                return P(L::max() - P(rng() % 2));
+            case 4:
+                return P(int(rng() % 17) - (std::is_signed_v<P> ? 8 : 0));
+            default:
+                return P(std::uniform_int_distribution<std::int64_t>(L::lowest(), L::max())(rng));
         }
     }
 }

@@ -31,34 +31,44 @@ struct Member {
 constexpr int channelsOf(const char* layout) { return layout[1] == '1' ? 1 : layout[1] == '3' ? 3 : 4; }
 constexpr int computedOf(const char* layout) { return layout[0] == 'A' ? 3 : channelsOf(layout); }
 
-#define MEMBER(family, t, l, constant, callR, callIR)                                                  \
-    Member<Zel##t>{family "_" #t "_" #l, channelsOf(#l), computedOf(#l), constant,                      \
-                   [](const Zel##t* a, [[maybe_unused]] int as, const Zel##t* b, int bs, Zel##t* d,      \
-                      int ds, ZeliSize r, [[maybe_unused]] int m, [[maybe_unused]] int s) {             \
-                       return int(callR);                                                               \
-                   },                                                                                   \
-                   [](const Zel##t* a, [[maybe_unused]] int as, Zel##t* d, int ds, ZeliSize r,          \
-                      [[maybe_unused]] int m, [[maybe_unused]] int s) { return int(callIR); }}
-#define DIV_SFS(t, l) \
-    MEMBER("Div", t, l, false, zeliDiv_##t##_##l##RSfs(a, as, b, bs, d, ds, r, s), zeliDiv_##t##_##l##IRSfs(a, as, d, ds, r, s))
-#define DIV_F(t, l) \
-    MEMBER("Div", t, l, false, zeliDiv_##t##_##l##R(a, as, b, bs, d, ds, r), zeliDiv_##t##_##l##IR(a, as, d, ds, r))
-#define DIV_ROUND(t, l)                                                                                \
-    MEMBER("Div_Round", t, l, false, zeliDiv_Round_##t##_##l##RSfs(a, as, b, bs, d, ds, r, ZelRoundingMode(m), s), \
+#define MEMBER(family, t, l, constant, callR, callIR)                                                \
+    Member<Zel##t> {                                                                                 \
+        family "_" #t "_" #l, channelsOf(#l), computedOf(#l), constant,                              \
+            [](const Zel##t* a, [[maybe_unused]] int as, const Zel##t* b, int bs, Zel##t* d, int ds, \
+               ZeliSize r, [[maybe_unused]] int m, [[maybe_unused]] int s) { return int(callR); },   \
+            [](const Zel##t* a, [[maybe_unused]] int as, Zel##t* d, int ds, ZeliSize r,              \
+               [[maybe_unused]] int m, [[maybe_unused]] int s) { return int(callIR); }               \
+    }
+#define DIV_SFS(t, l)                                                              \
+    MEMBER("Div", t, l, false, zeliDiv_##t##_##l##RSfs(a, as, b, bs, d, ds, r, s), \
+           zeliDiv_##t##_##l##IRSfs(a, as, d, ds, r, s))
+#define DIV_F(t, l)                                                          \
+    MEMBER("Div", t, l, false, zeliDiv_##t##_##l##R(a, as, b, bs, d, ds, r), \
+           zeliDiv_##t##_##l##IR(a, as, d, ds, r))
+#define DIV_ROUND(t, l)                                                                  \
+    MEMBER("Div_Round", t, l, false,                                                     \
+           zeliDiv_Round_##t##_##l##RSfs(a, as, b, bs, d, ds, r, ZelRoundingMode(m), s), \
            zeliDiv_Round_##t##_##l##IRSfs(a, as, d, ds, r, ZelRoundingMode(m), s))
-#define DIVC_SFS1(t) \
-    MEMBER("DivC", t, C1, true, zeliDivC_##t##_C1RSfs(b, bs, *a, d, ds, r, s), zeliDivC_##t##_C1IRSfs(*a, d, ds, r, s))
-#define DIVC_SFS(t, l) \
-    MEMBER("DivC", t, l, true, zeliDivC_##t##_##l##RSfs(b, bs, a, d, ds, r, s), zeliDivC_##t##_##l##IRSfs(a, d, ds, r, s))
-#define DIVC_F1(t) MEMBER("DivC", t, C1, true, zeliDivC_##t##_C1R(b, bs, *a, d, ds, r), zeliDivC_##t##_C1IR(*a, d, ds, r))
+#define DIVC_SFS1(t)                                                           \
+    MEMBER("DivC", t, C1, true, zeliDivC_##t##_C1RSfs(b, bs, *a, d, ds, r, s), \
+           zeliDivC_##t##_C1IRSfs(*a, d, ds, r, s))
+#define DIVC_SFS(t, l)                                                          \
+    MEMBER("DivC", t, l, true, zeliDivC_##t##_##l##RSfs(b, bs, a, d, ds, r, s), \
+           zeliDivC_##t##_##l##IRSfs(a, d, ds, r, s))
+#define DIVC_F1(t) \
+    MEMBER("DivC", t, C1, true, zeliDivC_##t##_C1R(b, bs, *a, d, ds, r), zeliDivC_##t##_C1IR(*a, d, ds, r))
 #define DIVC_F(t, l) \
     MEMBER("DivC", t, l, true, zeliDivC_##t##_##l##R(b, bs, a, d, ds, r), zeliDivC_##t##_##l##IR(a, d, ds, r))
 #define ALL3(X, t) X(t, C1), X(t, C3), X(t, AC4)
 #define ALL4(X, t) ALL3(X, t), X(t, C4)
 
-#define INTEGER_MEMBERS(t) \
-    std::vector<Member<Zel##t>> { ALL4(DIV_SFS, t), ALL4(DIV_ROUND, t), DIVC_SFS1(t), DIVC_SFS(t, C3), DIVC_SFS(t, C4), DIVC_SFS(t, AC4) }
-#define COMPLEX_MEMBERS(t) std::vector<Member<Zel##t>> { ALL3(DIV_SFS, t), DIVC_SFS1(t), DIVC_SFS(t, C3), DIVC_SFS(t, AC4) }
+#define INTEGER_MEMBERS(t)                                                                    \
+    std::vector<Member<Zel##t>> {                                                             \
+        ALL4(DIV_SFS, t), ALL4(DIV_ROUND, t), DIVC_SFS1(t), DIVC_SFS(t, C3), DIVC_SFS(t, C4), \
+            DIVC_SFS(t, AC4)                                                                  \
+    }
+#define COMPLEX_MEMBERS(t) \
+    std::vector<Member<Zel##t>> { ALL3(DIV_SFS, t), DIVC_SFS1(t), DIVC_SFS(t, C3), DIVC_SFS(t, AC4) }
 
 std::vector<Member<Zel8u>> members8u() { return INTEGER_MEMBERS(8u); }
 std::vector<Member<Zel16u>> members16u() { return INTEGER_MEMBERS(16u); }
@@ -68,7 +78,9 @@ std::vector<Member<Zel32sc>> members32sc() { return COMPLEX_MEMBERS(32sc); }
 std::vector<Member<Zel32f>> members32f() {
     return {ALL4(DIV_F, 32f), DIVC_F1(32f), DIVC_F(32f, C3), DIVC_F(32f, C4), DIVC_F(32f, AC4)};
 }
-std::vector<Member<Zel32fc>> members32fc() { return {ALL3(DIV_F, 32fc), DIVC_F1(32fc), DIVC_F(32fc, C3), DIVC_F(32fc, AC4)}; }
+std::vector<Member<Zel32fc>> members32fc() {
+    return {ALL3(DIV_F, 32fc), DIVC_F1(32fc), DIVC_F(32fc, C3), DIVC_F(32fc, AC4)};
+}
 
 template <class T>
 T expectedElement(const Member<T>& m, T a, T b, int mode, int s) {
@@ -86,23 +98,27 @@ void checkCall(const Member<T>& m, ZeliSize roi, int offset, int mode, int s, st
                                     << " s=" << s << " mode " << mode);
     std::mt19937 rng(seed);
     const auto sample = [&](int, int, int) { return divref::sampleElement<T>(rng); };
-    Image<T> divisor(roi, m.channels, m.computed, offset), dividend(roi, m.channels, m.computed, 2 * sizeof(T));
+    Image<T> divisor(roi, m.channels, m.computed, offset),
+        dividend(roi, m.channels, m.computed, 2 * sizeof(T));
     Image<T> dst(roi, m.channels, m.computed, offset + sizeof(T));
     divisor.fill(sample);
     dividend.fill(sample);
     if (onlyLastDivisorZero)
         divisor.fill([&](int x, int y, int c) {
             const bool last = x == roi.width - 1 && y == roi.height - 1 && c == 0;
-            if constexpr (divref::kComplex<T>) return last ? T{0, 0} : T{1, 0};
-            else return last ? T(0) : T(1);
+            if constexpr (divref::kComplex<T>)
+                return last ? T{0, 0} : T{1, 0};
+            else
+                return last ? T(0) : T(1);
         });
     if (m.name.rfind("Div_Round", 0) != 0) mode = 1;  // the others round to nearest even
     T constant[4];
-    for (T& c : constant)
-        do c = divref::sampleElement<T>(rng);
+    for (T& c : constant) do
+            c = divref::sampleElement<T>(rng);
         while (divref::warns(c, c, 0));
     const T* a = m.constant ? constant : divisor.roi();
-    const int status = m.run(a, divisor.step(), dividend.roi(), dividend.step(), dst.roi(), dst.step(), roi, mode, s);
+    const int status =
+        m.run(a, divisor.step(), dividend.roi(), dividend.step(), dst.roi(), dst.step(), roi, mode, s);
     Image<T> inPlace = dividend;
     ASSERT_EQ(m.runInPlace(a, divisor.step(), inPlace.roi(), inPlace.step(), roi, mode, s), status);
     bool warn = false;
@@ -179,7 +195,8 @@ TEST(DivMembers, ContiguousRowsGiveTheSameResult) {
     std::mt19937 rng(3);
     for (int i = 0; i < n; ++i) a[i] = divref::sample<Zel8u>(rng), b[i] = divref::sample<Zel8u>(rng);
     zel::test::forEachConfig([&] {
-        ASSERT_EQ(zeliDiv_8u_C3RSfs(a.data(), roi.width * 3, b.data(), roi.width * 3, d.data(), roi.width * 3, roi, -1),
+        ASSERT_EQ(zeliDiv_8u_C3RSfs(a.data(), roi.width * 3, b.data(), roi.width * 3, d.data(), roi.width * 3,
+                                    roi, -1),
                   zelStatusWarnDivByZero);
         ASSERT_EQ(zeliDiv_Round_8u_C3RSfs(a.data(), roi.width * 3, b.data(), roi.width * 3, padded.data(),
                                           roi.width * 3 + 9, roi, zelRoundNearestEven, -1),

@@ -26,7 +26,8 @@ void expectEvery8uPair(std::initializer_list<int> modes, Call call) {
     std::vector<Zel8u> expected(256 * 256);
     for (int mode : modes)
         for (int s : {-16, -15, -9, -8, -1, 0, 1, 2, 8, 9, 10}) {
-            for (int i = 0; i < 256 * 256; ++i) expected[i] = divref::real<Zel8u>(Zel8u(i % 256), Zel8u(i / 256), s, mode);
+            for (int i = 0; i < 256 * 256; ++i)
+                expected[i] = divref::real<Zel8u>(Zel8u(i % 256), Zel8u(i / 256), s, mode);
             zel::test::forEachConfig([&] {
                 ASSERT_EQ(call(divisor, dividend, dst, mode, s), zelStatusWarnDivByZero);
                 for (int i = 0; i < 256 * 256; ++i)
@@ -37,8 +38,8 @@ void expectEvery8uPair(std::initializer_list<int> modes, Call call) {
         }
 }
 
-#define PAIR_CALL(fn, ...)                                                                          \
-    [](auto& a, auto& b, auto& d, [[maybe_unused]] int mode, int s) {                               \
+#define PAIR_CALL(fn, ...)                                                                              \
+    [](auto& a, auto& b, auto& d, [[maybe_unused]] int mode, int s) {                                   \
         return int(fn(a.roi(), a.step(), b.roi(), b.step(), d.roi(), d.step(), a.size(), __VA_ARGS__)); \
     }
 
@@ -84,7 +85,8 @@ TEST(DivRule, SampledWideTypes) {
     expectSampled<Zel16s>(PAIR_CALL(zeliDiv_Round_16s_C1RSfs, ZelRoundingMode(mode), s), scales16s, {0, 2});
     expectSampled<Zel16sc>(PAIR_CALL(zeliDiv_16sc_C1RSfs, s),
                            {-100, -34, -33, -32, -31, -16, -1, 0, 1, 2, 15, 16, 17, 32, 33, 100}, {1});
-    expectSampled<Zel32sc>(PAIR_CALL(zeliDiv_32sc_C1RSfs, s), {-60, -33, -31, -1, 0, 1, 2, 31, 33, 34, 40}, {1});
+    expectSampled<Zel32sc>(PAIR_CALL(zeliDiv_32sc_C1RSfs, s), {-60, -33, -31, -1, 0, 1, 2, 31, 33, 34, 40},
+                           {1});
 }
 
 TEST(DivRule, ExtremeScaleFactorsAndQuotients) {
@@ -165,30 +167,85 @@ TEST(DivChecks, OrderIsNullSizeStepThenOwnChecks) {
     const ZelRoundingMode bad = rawMode(3);
     zel::test::expectRejected(
         {
-            {"null src1", -8, [&] { return zeliDiv_8u_C3RSfs(nullptr, st, s2.roi(), st, d.roi(), st, {4, 4}, 0); }},
-            {"null dst", -8, [&] { return zeliDiv_8u_C3IRSfs(s1.roi(), st, nullptr, st, {4, 4}, 0); }},
-            {"null before size", -8, [&] { return zeliDiv_32f_C1R(nullptr, 4, nullptr, 4, nullptr, 4, {0, 0}); }},
-            {"size", -6, [&] { return zeliDiv_8u_C3RSfs(s1.roi(), st, s2.roi(), st, d.roi(), st, {0, 4}, 0); }},
-            {"size before step", -6, [&] { return zeliDiv_8u_C3RSfs(s1.roi(), 0, s2.roi(), st, d.roi(), st, {4, 0}, 0); }},
-            {"divisor step", -14, [&] { return zeliDiv_8u_C3RSfs(s1.roi(), 0, s2.roi(), st, d.roi(), st, {4, 4}, 0); }},
-            {"dst step", -14, [&] { return zeliDiv_8u_C3IRSfs(s1.roi(), st, d.roi(), -st, {4, 4}, 0); }},
-            {"mode", -213, [&] { return zeliDiv_Round_8u_C3RSfs(s1.roi(), st, s2.roi(), st, d.roi(), st, {4, 4}, bad, 0); }},
-            {"step before mode", -14, [&] { return zeliDiv_Round_8u_C3IRSfs(s1.roi(), st, d.roi(), 0, {4, 4}, bad, 0); }},
-            {"size before mode", -6, [&] { return zeliDiv_Round_8u_C3IRSfs(s1.roi(), st, d.roi(), st, {-1, 4}, bad, 0); }},
-            {"null constant", -8, [&] { return zeliDivC_8u_C3RSfs(s1.roi(), st, nullptr, d.roi(), st, {4, 4}, 0); }},
-            {"zero constant", -10, [&] { return zeliDivC_8u_C3RSfs(s1.roi(), st, c, d.roi(), st, {4, 4}, 0); }},
-            {"zero constant in place", -10, [&] { return zeliDivC_8u_C3IRSfs(c, d.roi(), st, {4, 4}, 0); }},
-            {"step before constant", -14, [&] { return zeliDivC_8u_C3IRSfs(c, d.roi(), 0, {4, 4}, 0); }},
-            {"size before constant", -6, [&] { return zeliDivC_8u_C1IRSfs(0, d.roi(), st, {4, 0}, 0); }},
-            {"null before constant", -8, [&] { return zeliDivC_32f_C1R(nullptr, st, 0.0f, nullptr, st, {0, 0}); }},
-            {"zero 32f constant", -10, [&] { return zeliDivC_32f_C1IR(-0.0f, reinterpret_cast<float*>(d.roi()), st, {1, 1}); }},
-            {"zero 16sc constant", -10, [&] { return zeliDivC_16sc_C1IRSfs(zero, reinterpret_cast<Zel16sc*>(d.roi()), st, {1, 1}, 0); }},
+            {"null src1", -8,
+             [&] {
+                 return zeliDiv_8u_C3RSfs(nullptr, st, s2.roi(), st, d.roi(), st, {4, 4}, 0);
+             }},
+            {"null dst", -8,
+             [&] {
+                 return zeliDiv_8u_C3IRSfs(s1.roi(), st, nullptr, st, {4, 4}, 0);
+             }},
+            {"null before size", -8,
+             [&] {
+                 return zeliDiv_32f_C1R(nullptr, 4, nullptr, 4, nullptr, 4, {0, 0});
+             }},
+            {"size", -6,
+             [&] {
+                 return zeliDiv_8u_C3RSfs(s1.roi(), st, s2.roi(), st, d.roi(), st, {0, 4}, 0);
+             }},
+            {"size before step", -6,
+             [&] {
+                 return zeliDiv_8u_C3RSfs(s1.roi(), 0, s2.roi(), st, d.roi(), st, {4, 0}, 0);
+             }},
+            {"divisor step", -14,
+             [&] {
+                 return zeliDiv_8u_C3RSfs(s1.roi(), 0, s2.roi(), st, d.roi(), st, {4, 4}, 0);
+             }},
+            {"dst step", -14,
+             [&] {
+                 return zeliDiv_8u_C3IRSfs(s1.roi(), st, d.roi(), -st, {4, 4}, 0);
+             }},
+            {"mode", -213,
+             [&] {
+                 return zeliDiv_Round_8u_C3RSfs(s1.roi(), st, s2.roi(), st, d.roi(), st, {4, 4}, bad, 0);
+             }},
+            {"step before mode", -14,
+             [&] {
+                 return zeliDiv_Round_8u_C3IRSfs(s1.roi(), st, d.roi(), 0, {4, 4}, bad, 0);
+             }},
+            {"size before mode", -6,
+             [&] {
+                 return zeliDiv_Round_8u_C3IRSfs(s1.roi(), st, d.roi(), st, {-1, 4}, bad, 0);
+             }},
+            {"null constant", -8,
+             [&] {
+                 return zeliDivC_8u_C3RSfs(s1.roi(), st, nullptr, d.roi(), st, {4, 4}, 0);
+             }},
+            {"zero constant", -10,
+             [&] {
+                 return zeliDivC_8u_C3RSfs(s1.roi(), st, c, d.roi(), st, {4, 4}, 0);
+             }},
+            {"zero constant in place", -10,
+             [&] {
+                 return zeliDivC_8u_C3IRSfs(c, d.roi(), st, {4, 4}, 0);
+             }},
+            {"step before constant", -14,
+             [&] {
+                 return zeliDivC_8u_C3IRSfs(c, d.roi(), 0, {4, 4}, 0);
+             }},
+            {"size before constant", -6,
+             [&] {
+                 return zeliDivC_8u_C1IRSfs(0, d.roi(), st, {4, 0}, 0);
+             }},
+            {"null before constant", -8,
+             [&] {
+                 return zeliDivC_32f_C1R(nullptr, st, 0.0f, nullptr, st, {0, 0});
+             }},
+            {"zero 32f constant", -10,
+             [&] {
+                 return zeliDivC_32f_C1IR(-0.0f, reinterpret_cast<float*>(d.roi()), st, {1, 1});
+             }},
+            {"zero 16sc constant", -10,
+             [&] {
+                 return zeliDivC_16sc_C1IRSfs(zero, reinterpret_cast<Zel16sc*>(d.roi()), st, {1, 1}, 0);
+             }},
         },
         s1, s2, d);
     // A mode outside the enumeration's values is rejected too; an imaginary constant is not zero.
     for (int mode : {-1, 3, 7})
-        EXPECT_EQ(zeliDiv_Round_16s_C1IRSfs(reinterpret_cast<Zel16s*>(s1.roi()), st, reinterpret_cast<Zel16s*>(d.roi()),
-                                            st, {1, 1}, rawMode(mode), 0), zelStatusBadRoundMode);
+        EXPECT_EQ(zeliDiv_Round_16s_C1IRSfs(reinterpret_cast<Zel16s*>(s1.roi()), st,
+                                            reinterpret_cast<Zel16s*>(d.roi()), st, {1, 1}, rawMode(mode), 0),
+                  zelStatusBadRoundMode);
     EXPECT_EQ(zeliDivC_16sc_C1IRSfs(imaginary, z16, 16, {4, 1}, 0), zelStatusOk);
     EXPECT_EQ(zeliDivC_8u_C3IRSfs(ok, d.roi(), st, {4, 4}, 0), zelStatusOk);
 }
