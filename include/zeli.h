@@ -514,6 +514,282 @@ ZELAPI ZelStatus zeliTranspose_32s_C4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSiz
 
 /* ==== Image arithmetic ==================================================== */
 
+/* ==== Image arithmetic: division ======================================== */
+
+/* Div: destination = source 2 / source 1 (the first source is the divisor);
+   in place, image = image / source. Integer members: the exact quotient
+   times 2^-scaleFactor, rounded to nearest even and saturated; complex
+   members divide by (b * conj(a)) / |a|^2 and scale each part. A zero
+   divisor gives the saturated sign of the dividend (0 for 0 / 0) and the
+   call returns zelStatusWarnDivByZero after computing the whole ROI; 32f
+   and 32fc divide in IEEE single precision and warn the same way. Checks:
+   null pointers, ROI size, then steps. */
+ZELAPI ZelStatus zeliDiv_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C1RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2,
+    int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C1IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C3RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2,
+    int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C3IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_AC4RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2,
+    int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_AC4IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C1RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2,
+    int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C1IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C3RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2,
+    int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C3IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_AC4RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2,
+    int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_AC4IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32f_C1R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C1IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C3R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C3IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_AC4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_AC4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C1R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2,
+    int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C1IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C3R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2,
+    int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C3IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_AC4R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2,
+    int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_AC4IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+
+/* Div_Round: Div for 8u, 16u and 16s with the rounding mode of the scaled
+   quotient given (toward zero, nearest even, half away from zero); any
+   other mode returns zelStatusBadRoundMode after the step check. */
+ZELAPI ZelStatus zeliDiv_Round_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+
+/* DivC: destination = source / constant (a scalar for C1, 3 values for C3
+   and AC4, 4 for C4); the in-place members take the constant first. A zero
+   constant in any channel returns zelStatusDivByZero after the pointer,
+   size and step checks, with nothing written. Integer and complex members
+   round as Div does; 32f members multiply by the single-precision
+   reciprocal, x * (1 / c). */
+ZELAPI ZelStatus zeliDivC_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst,
+    int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C1IRSfs(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C3RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[],
+    Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C3IRSfs(const Zel8u value[], Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[],
+    Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C4IRSfs(const Zel8u value[], Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[],
+    Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_AC4IRSfs(const Zel8u value[], Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst,
+    int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C1IRSfs(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C3RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[],
+    Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C3IRSfs(const Zel16u value[], Zel16u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[],
+    Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C4IRSfs(const Zel16u value[], Zel16u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[],
+    Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_AC4IRSfs(const Zel16u value[], Zel16u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst,
+    int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C1IRSfs(Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roi,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C3RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[],
+    Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C3IRSfs(const Zel16s value[], Zel16s* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[],
+    Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C4IRSfs(const Zel16s value[], Zel16s* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[],
+    Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_AC4IRSfs(const Zel16s value[], Zel16s* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C1RSfs(const Zel16sc* pSrc, int srcStep, Zel16sc value,
+    Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C1IRSfs(Zel16sc value, Zel16sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C3RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[],
+    Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C3IRSfs(const Zel16sc value[], Zel16sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_AC4RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[],
+    Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_AC4IRSfs(const Zel16sc value[], Zel16sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C1RSfs(const Zel32sc* pSrc, int srcStep, Zel32sc value,
+    Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C1IRSfs(Zel32sc value, Zel32sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C3RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[],
+    Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C3IRSfs(const Zel32sc value[], Zel32sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_AC4RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[],
+    Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_AC4IRSfs(const Zel32sc value[], Zel32sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst,
+    int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C3R(const Zel32f* pSrc, int srcStep, const Zel32f value[],
+    Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C3IR(const Zel32f value[], Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C4R(const Zel32f* pSrc, int srcStep, const Zel32f value[],
+    Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C4IR(const Zel32f value[], Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_AC4R(const Zel32f* pSrc, int srcStep, const Zel32f value[],
+    Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_AC4IR(const Zel32f value[], Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C1R(const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst,
+    int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C1IR(Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C3R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[],
+    Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C3IR(const Zel32fc value[], Zel32fc* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_AC4R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[],
+    Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_AC4IR(const Zel32fc value[], Zel32fc* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+
 #ifdef __cplusplus
 }
 #endif
