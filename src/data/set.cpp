@@ -79,12 +79,20 @@ HWY_AFTER_NAMESPACE();
 #include "core/pixel.h"
 #include "core/simd.h"
 #include "data/channel_kernels.h"
+#include "data/copy_rows.h"
 
 namespace zel {
 namespace {
 
-// Fills larger than this many bytes bypass the caches.
+// Fills larger than this many bytes bypass the caches, unless the image
+// would fit in the largest cache (filling it through the cache is faster
+// then, and leaves the result where the next operation reads it).
 constexpr std::int64_t kSetStreamBytes = 4194304;
+
+bool streamFill(std::int64_t bytes) {
+    const int cache = largestCacheBytes();
+    return bytes > kSetStreamBytes && (cache == 0 || bytes >= cache / 2);
+}
 
 template <class T, Layout L>
 ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
@@ -95,7 +103,7 @@ ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
     for (int c = 0; c < kComputed<L>; ++c) std::memcpy(&pixel[c], &value[c], sizeof(T));
 
     const std::int64_t rowBytes = std::int64_t{roi.width} * C * sizeof(T);
-    const bool stream = rowBytes * roi.height > kSetStreamBytes;
+    const bool stream = streamFill(rowBytes * roi.height);
     const ZeliSize rows = L == Layout::AC4 ? roi : collapseRows(roi, rowBytes, {dstStep});
     const auto fillRow = ZEL_DISPATCH(FillRow<B, C, kComputed<L>>);
     B* dst = reinterpret_cast<B*>(pDst);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "harness/checkorder.h"
 #include "harness/image.h"
 #include "harness/sweep.h"
@@ -59,11 +61,14 @@ TEST(Set, EveryMemberFillsExactlyTheRoi) {
 }
 
 TEST(Set, ContiguousAndStreamedFillsMatch) {
-    // 2600 x 600 x 3 bytes is above the streaming threshold; a step equal to
-    // the row length collapses the rows into one.
+    // Large enough to stream (above 4 MiB and half the largest cache); a
+    // step equal to the row length collapses the rows into one.
+    int cache = 0;
+    ASSERT_EQ(zelGetMaxCacheSizeB(&cache), zelStatusOk);
+    const int height = std::max(600, cache / 2 / (2600 * 3) + 1);
     const Zel8u value[3] = {9, 8, 7};
     for (int pad : {0, 5}) {
-        const ZeliSize roi{2600, 600};
+        const ZeliSize roi{2600, height};
         const int step = roi.width * 3 + pad;
         std::vector<Zel8u> buffer(std::size_t(step) * roi.height + 1, 0);
         ASSERT_EQ(zeliSet_8u_C3R(value, buffer.data() + 1, step, roi), zelStatusOk);
