@@ -12,7 +12,7 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
-#include "data/store_under_mask-inl.h"
+#include "core/store_under_mask-inl.h"
 
 #include <cstdint>
 #include <type_traits>
@@ -255,18 +255,6 @@ HWY_AFTER_NAMESPACE();
 #include "core/simd.h"
 
 namespace zel {
-namespace {
-
-// Rows of every operand follow one another without padding: the image is
-// one row of width * height pixels (when that count fits).
-ZeliSize collapseContiguous(ZeliSize roi, std::initializer_list<std::pair<int, std::int64_t>> stepAndRowBytes) {
-    for (const auto& [step, rowBytes] : stepAndRowBytes)
-        if (step != rowBytes) return roi;
-    const std::int64_t pixels = std::int64_t{roi.width} * roi.height;
-    return pixels > INT_MAX ? roi : ZeliSize{static_cast<int>(pixels), 1};
-}
-
-}  // namespace
 
 bool planarStreams(std::int64_t interleavedBytes) { return interleavedBytes > kPlanarStreamBytes; }
 
@@ -275,7 +263,7 @@ void shuffleImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
                   const ChannelOrder& order, bool partial) {
     const auto row = ZEL_DISPATCH(ShuffleRow<B, SC, DC, Order>);
     const std::int64_t pixelBytes = sizeof(B);
-    const ZeliSize rows = collapseContiguous(
+    const ZeliSize rows = collapseRows(
         roi, {{srcStep, roi.width * SC * pixelBytes}, {dstStep, roi.width * DC * pixelBytes}});
     for (int y = 0; y < rows.height; ++y)
         row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rows.width, order, partial ? 1 : 0);
@@ -301,7 +289,7 @@ template <class B, int C>
 void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi, bool stream) {
     const auto row = ZEL_DISPATCH(SplitRow<B, C>);
     const std::int64_t elementBytes = sizeof(B);
-    const ZeliSize rows = collapseContiguous(
+    const ZeliSize rows = collapseRows(
         roi, {{srcStep, roi.width * C * elementBytes}, {planeStep, roi.width * elementBytes}});
     for (int y = 0; y < rows.height; ++y) {
         B* rowPlanes[C];
@@ -315,7 +303,7 @@ template <class B, int C>
 void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi, bool stream) {
     const auto row = ZEL_DISPATCH(MergeRow<B, C>);
     const std::int64_t elementBytes = sizeof(B);
-    const ZeliSize rows = collapseContiguous(
+    const ZeliSize rows = collapseRows(
         roi, {{dstStep, roi.width * C * elementBytes}, {planeStep, roi.width * elementBytes}});
     for (int y = 0; y < rows.height; ++y) {
         const B* rowPlanes[C];

@@ -12,7 +12,7 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
-#include "data/store_under_mask-inl.h"
+#include "core/store_under_mask-inl.h"
 
 #include <hwy/cache_control.h>
 

@@ -7,11 +7,11 @@
 // falls back to a lane-by-lane loop, so the store becomes a blend with the
 // current contents instead: callers must own the whole vector's span (the
 // unselected lanes are written back unchanged).
-#if defined(ZEL_DATA_STORE_UNDER_MASK_INL_H_) == defined(HWY_TARGET_TOGGLE)
-#ifdef ZEL_DATA_STORE_UNDER_MASK_INL_H_
-#undef ZEL_DATA_STORE_UNDER_MASK_INL_H_
+#if defined(ZEL_CORE_STORE_UNDER_MASK_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef ZEL_CORE_STORE_UNDER_MASK_INL_H_
+#undef ZEL_CORE_STORE_UNDER_MASK_INL_H_
 #else
-#define ZEL_DATA_STORE_UNDER_MASK_INL_H_
+#define ZEL_CORE_STORE_UNDER_MASK_INL_H_
 #endif
 
 #include <hwy/highway.h>
@@ -41,4 +41,4 @@ HWY_INLINE void StoreUnderMask(V v, M m, D d, hwy::HWY_NAMESPACE::TFromD<D>* p) 
 }  // namespace zel
 HWY_AFTER_NAMESPACE();
 
-#endif  // ZEL_DATA_STORE_UNDER_MASK_INL_H_
+#endif  // ZEL_CORE_STORE_UNDER_MASK_INL_H_
