@@ -25,7 +25,8 @@ test: build
 bench: deps
 	cmake -S . -B $(BUILD) $(CMAKE_COMMON) -DZELI_BUILD_BENCH=ON
 	cmake --build $(BUILD) -j $(JOBS) --target zeli_bench
-	$(BUILD)/bench/zeli_bench
+	$(BUILD)/bench/zeli_bench --benchmark_repetitions=5 --benchmark_min_time=0.1 \
+	    --benchmark_report_aggregates_only=false $(BENCH_ARGS)
 
 deps:
 	@missing=$$(for p in $(DEB_PACKAGES); do \
