@@ -1,0 +1,192 @@
+// The wrapper shared by Add, Sub, Mul, their constant forms and MulScale:
+// argument checks in the member's order, the scale-factor band, the zero
+// fill shortcut, and the row loop (forked for the members that fork).
+//
+// Include after the per-target kernels (binary_row-inl.h) inside HWY_ONCE.
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+#include "arith/complex_row.h"
+#include "arith/scale.h"
+#include "core/checks.h"
+#include "core/image.h"
+#include "core/parallel.h"
+#include "core/pixel.h"
+#include "core/simd.h"
+
+namespace zel::arith {
+
+// Two images, or an image and a constant; out of place or in place.
+enum class Form { Images, ImagesInPlace, Const, ConstInPlace };
+
+template <Form F>
+inline constexpr bool kConstForm = F == Form::Const || F == Form::ConstInPlace;
+
+template <class T, class... U>
+inline constexpr bool kOneOf = (std::is_same_v<T, U> || ...);
+
+// Members that replace a call whose every result is 0 by a zero Set.
+template <class Op, class T, Layout L, Form F>
+constexpr bool takesZeroShortcut() {
+    constexpr bool isConst = kConstForm<F>;
+    if constexpr (std::is_same_v<Op, MulScaleOp>) return false;
+    if constexpr (kOneOf<T, Zel8u, Zel16s>) return L == Layout::C1;
+    if constexpr (std::is_same_v<T, Zel16u>)
+        return L == Layout::C1 && (!std::is_same_v<Op, MulOp> || isConst);
+    if constexpr (std::is_same_v<T, Zel16sc>) {
+        if (!isConst) return false;
+        if (std::is_same_v<Op, MulOp>) return L != Layout::C4;
+        return L == Layout::C1 || L == Layout::C3;
+    }
+    return false;
+}
+
+// Members that check their steps; MulScale checks them even before the size.
+template <class Op, class T>
+inline constexpr bool kChecksSteps = kOneOf<T, Zel16sc, Zel32fc> || std::is_same_v<Op, MulScaleOp>;
+template <class Op>
+inline constexpr bool kStepBeforeSize = std::is_same_v<Op, MulScaleOp>;
+
+// Members that split their rows among threads, and when.
+template <class Op, class T, Layout L, Form F>
+bool forksRows(ZeliSize roi) {
+    if constexpr (std::is_same_v<Op, MulScaleOp>) {
+        return false;
+    } else if constexpr (!kConstForm<F>) {
+        return kOneOf<T, Zel8u, Zel16s, Zel32f> && L == Layout::C1;
+    } else if constexpr (kOneOf<T, Zel8u, Zel16s>) {
+        return L == Layout::C1 || L == Layout::C3;
+    } else if constexpr (std::is_same_v<T, Zel32f>) {
+        const bool member = L == Layout::C1 || L == Layout::C3 ||
+                            (L == Layout::AC4 && F == Form::ConstInPlace);
+        return member && std::int64_t{roi.width} + roi.height >= 256;
+    } else {
+        return false;
+    }
+}
+
+// Zero fill through the exported Set of the same element size (16u and
+// 16sc have none of their own; 16s and 32s write the same bits).
+template <class T, Layout L>
+ZelStatus zeroFill(T* dst, int step, ZeliSize roi) {
+    static_assert(sizeof(T) == 1 || sizeof(T) == 2 || sizeof(T) == 4);
+    using S = std::conditional_t<sizeof(T) == 1, Zel8u, std::conditional_t<sizeof(T) == 2, Zel16s, Zel32s>>;
+    S* d = reinterpret_cast<S*>(dst);
+    const S zeros[4] = {};
+    if constexpr (std::is_same_v<S, Zel8u>) {
+        if constexpr (L == Layout::C1) return zeliSet_8u_C1R(0, d, step, roi);
+        if constexpr (L == Layout::C3) return zeliSet_8u_C3R(zeros, d, step, roi);
+        if constexpr (L == Layout::C4) return zeliSet_8u_C4R(zeros, d, step, roi);
+        if constexpr (L == Layout::AC4) return zeliSet_8u_AC4R(zeros, d, step, roi);
+    } else if constexpr (std::is_same_v<S, Zel16s>) {
+        if constexpr (L == Layout::C1) return zeliSet_16s_C1R(0, d, step, roi);
+        if constexpr (L == Layout::C3) return zeliSet_16s_C3R(zeros, d, step, roi);
+        if constexpr (L == Layout::C4) return zeliSet_16s_C4R(zeros, d, step, roi);
+        if constexpr (L == Layout::AC4) return zeliSet_16s_AC4R(zeros, d, step, roi);
+    } else {
+        if constexpr (L == Layout::C1) return zeliSet_32s_C1R(0, d, step, roi);
+        if constexpr (L == Layout::C3) return zeliSet_32s_C3R(zeros, d, step, roi);
+        if constexpr (L == Layout::C4) return zeliSet_32s_C4R(zeros, d, step, roi);
+        if constexpr (L == Layout::AC4) return zeliSet_32s_AC4R(zeros, d, step, roi);
+    }
+}
+
+template <class B>
+using RowKernel = void (*)(const B* p, const B* q, bool qPattern, B* dst, int n, int period,
+                           const BitsOf<B>* keep, const ScaleArgs& args);
+
+// Patterns long enough for `period` vectors of the widest target.
+constexpr int kPatternLength = 8 * 64;
+
+// The row kernel of an operation on T for a band: the SIMD kernel of the
+// best target, or the scalar one for complex products and 32sc, whose exact
+// values do not fit 32-bit lanes.
+template <class Op, class T>
+inline constexpr bool kScalarRow =
+    kIsComplex<T> && (std::is_same_v<Op, MulOp> || std::is_same_v<BaseOf<T>, Zel32s>);
+
+namespace {
+
+template <class Op, class T>
+RowKernel<BaseOf<T>> rowKernel(Band band) {
+    using B = BaseOf<T>;
+    if constexpr (kScalarRow<Op, T>) {
+        if (band == Band::Zero) return &ComplexRow<Op, B, Band::Zero>;
+        return &ComplexRow<Op, B, Band::Plain>;  // applies the full rule per part
+    } else if constexpr (std::is_floating_point_v<B> || std::is_same_v<Op, MulScaleOp>) {
+        (void)band;
+        return ZEL_DISPATCH(BinaryRow<Op, B, Band::Plain>);
+    } else {
+        switch (band) {
+            case Band::Plain: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Plain>);
+            case Band::One: return ZEL_DISPATCH(BinaryRow<Op, B, Band::One>);
+            case Band::Pos: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Pos>);
+            case Band::Neg: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Neg>);
+            case Band::Bound: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Bound>);
+            case Band::Zero: break;
+        }
+        return ZEL_DISPATCH(BinaryRow<Op, B, Band::Zero>);
+    }
+}
+
+}  // namespace
+
+// Runs one member. p is the image the operation starts from (the minuend of
+// Sub, the source of the constant forms, the in-place image); q is the
+// other image or the constant's values.
+template <class Op, class T, Layout L, Form F>
+ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int dstStep, ZeliSize roi,
+                     int scale) {
+    using B = BaseOf<T>;
+    constexpr bool isConst = kConstForm<F>;
+    Check check;
+    check.ptrs(p, q, dst);
+    const bool stepsOk = pStep >= 1 && (isConst || qStep >= 1) && dstStep >= 1;
+    if constexpr (kStepBeforeSize<Op>) check.that(stepsOk, zelStatusBadStep);
+    check.roi(roi);
+    if constexpr (kChecksSteps<Op, T> && !kStepBeforeSize<Op>) check.that(stepsOk, zelStatusBadStep);
+    if (ZelStatus st = check) return st;
+
+    const Band band = chooseBand<Op, T>(scale);
+    if constexpr (takesZeroShortcut<Op, T, L, F>())
+        if (band == Band::Zero) return zeroFill<T, L>(dst, dstStep, roi);
+
+    constexpr int kSub = kIsComplex<T> ? 2 : 1;  // base elements per channel
+    constexpr int kPeriod = kChannels<L> * kSub;
+    BitsOf<B> keepPattern[kPatternLength];
+    const BitsOf<B>* keep = nullptr;
+    if constexpr (L == Layout::AC4) {
+        for (int i = 0; i < kPatternLength; ++i)
+            keepPattern[i] = i % kPeriod >= 3 * kSub ? BitsOf<B>(~BitsOf<B>(0)) : BitsOf<B>(0);
+        keep = keepPattern;
+    }
+    B valuePattern[kPatternLength];
+    const B* qBase = reinterpret_cast<const B*>(q);
+    if constexpr (isConst) {
+        for (int i = 0; i < kPatternLength; ++i) {
+            const int c = i % kPeriod;
+            valuePattern[i] = c < kComputed<L> * kSub ? qBase[c] : B(0);
+        }
+        qBase = valuePattern;
+    }
+
+    const RowKernel<B> row = rowKernel<Op, T>(band);
+    const ScaleArgs args = scaleArgs<Op, T>(scale);
+    const bool fork = forksRows<Op, T, L, F>(roi);
+    const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
+    ZeliSize rows = roi;
+    if (!fork) rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
+                              : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
+    const int n = rows.width * kPeriod;
+    const B* pBase = reinterpret_cast<const B*>(p);
+    B* dBase = reinterpret_cast<B*>(dst);
+    forEachRow(rows.height, fork, [&](int y) {
+        row(rowAt(pBase, pStep, y), isConst ? qBase : rowAt(qBase, qStep, y), isConst,
+            rowAt(dBase, dstStep, y), n, kPeriod, keep, args);
+    });
+    return zelStatusOk;
+}
+
+}  // namespace zel::arith

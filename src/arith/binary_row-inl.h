@@ -1,0 +1,169 @@
+// Per-target row kernel of the two-operand arithmetic (included by each
+// family file inside its Highway target loop).
+//
+// A row is a run of n elements. The second operand q is either another row
+// or, for the constant forms, a pattern of `period` channel values repeated
+// across the row; `keep` marks (with all bits set) the channels whose
+// destination element must stay as it is, the alpha of AC4 layouts. Both
+// patterns are laid out for `period` consecutive vectors, so every vector
+// starts at a known place in the pixel.
+//
+// Integer elements are widened to 32-bit lanes, combined exactly, scaled by
+// the band's rule and narrowed back with saturation; 32f is computed in its
+// own lanes. The last partial vector goes through a small buffer so it runs
+// the very same code as the rest of the row.
+#if defined(ZEL_ARITH_BINARY_ROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef ZEL_ARITH_BINARY_ROW_INL_H_
+#undef ZEL_ARITH_BINARY_ROW_INL_H_
+#else
+#define ZEL_ARITH_BINARY_ROW_INL_H_
+#endif
+
+#include <hwy/highway.h>
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "arith/scale.h"
+#include "core/pixel.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Lane type in which an operation on T is carried out exactly: 32-bit
+// signed lanes hold every sum, difference and 16-bit signed product; the
+// unsigned 16-bit products need all 32 bits unsigned.
+template <class Op, class T>
+using WideLane = std::conditional_t<
+    std::is_floating_point_v<T>, T,
+    std::conditional_t<std::is_same_v<T, std::uint16_t> &&
+                           (std::is_same_v<Op, arith::MulOp> || std::is_same_v<Op, arith::MulScaleOp>),
+                       std::uint32_t, std::int32_t>>;
+
+template <class DW, class V>
+HWY_INLINE auto Widen(DW dw, V v) {
+    if constexpr (std::is_same_v<hn::TFromD<DW>, hn::TFromV<V>>) {
+        return v;
+    } else {
+        return hn::PromoteTo(dw, v);
+    }
+}
+
+// Back to the element type with saturation. The value is clamped to the
+// type's range first, so the demotion itself never has to saturate (not
+// every target's demotion saturates unsigned 8-bit results correctly).
+template <class DN, class DW, class V>
+HWY_INLINE auto Narrow(DN dn, DW dw, V v) {
+    using T = hn::TFromD<DN>;
+    using W = hn::TFromD<DW>;
+    if constexpr (std::is_same_v<T, W>) {
+        return v;
+    } else {
+        const hn::RebindToSigned<DW> di;
+        if constexpr (std::is_signed_v<W>) v = hn::Max(v, hn::Set(dw, W(std::numeric_limits<T>::min())));
+        v = hn::Min(v, hn::Set(dw, W(std::numeric_limits<T>::max())));
+        return hn::DemoteTo(dn, hn::BitCast(di, v));
+    }
+}
+
+// The exact combination of two widened operands.
+template <class Op, class T, class DW, class V>
+HWY_INLINE V Combine(DW dw, V p, V q) {
+    if constexpr (std::is_same_v<Op, arith::AddOp>) {
+        return hn::Add(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::SubOp>) {
+        return hn::Sub(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::MulOp>) {
+        return hn::Mul(p, q);
+    } else {
+        constexpr int kBits = int(sizeof(T) * 8);
+        const V product = hn::Mul(p, q);
+        const V rounded = hn::Add(hn::Add(product, hn::Set(dw, 1)), hn::ShiftRight<kBits>(product));
+        return hn::ShiftRight<kBits>(rounded);
+    }
+}
+
+// v * 2^-s in the band's form; saturation happens when narrowing.
+template <arith::Band B, class DW, class V>
+HWY_INLINE V ScaleStep(DW dw, V v, const arith::ScaleArgs& a) {
+    using W = hn::TFromD<DW>;
+    using arith::Band;
+    const V one = hn::Set(dw, W(1));
+    if constexpr (B == Band::One) {
+        // (v + ((v >> 1) & 1)) >> 1
+        return hn::ShiftRight<1>(hn::Add(v, hn::And(hn::ShiftRight<1>(v), one)));
+    } else if constexpr (B == Band::Pos) {
+        // Round half to even without an overflowing addition: h keeps the
+        // half bit as its lowest bit, `sticky` says whether anything below
+        // it is set; round up when above one half, or at one half with an
+        // odd quotient.
+        const V h = hn::ShiftRightSame(v, a.shift - 1);
+        const V quotient = hn::ShiftRight<1>(h);
+        const V below = hn::And(v, hn::Set(dw, W((W(1) << (a.shift - 1)) - 1)));
+        const V sticky = hn::IfThenElseZero(hn::Ne(below, hn::Zero(dw)), one);
+        const V up = hn::And(hn::And(h, one), hn::Or(sticky, hn::And(quotient, one)));
+        return hn::Add(quotient, up);
+    } else if constexpr (B == Band::Neg || B == Band::Bound) {
+        // Values outside [lo >> n, hi >> n] saturate; clamping them one step
+        // further out keeps the shift from wrapping and still saturates.
+        if constexpr (std::is_signed_v<W>) v = hn::Max(v, hn::Set(dw, W(a.keepLo - 1)));
+        v = hn::Min(v, hn::Set(dw, W(a.keepHi + 1)));
+        return hn::ShiftLeftSame(v, a.shift);
+    } else {
+        (void)dw;
+        (void)a;
+        (void)one;
+        return v;
+    }
+}
+
+template <class Op, class T, arith::Band B>
+void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
+               const BitsOf<T>* keep, const arith::ScaleArgs& args) {
+    using W = WideLane<Op, T>;
+    const hn::ScalableTag<W> dw;
+    const hn::Rebind<T, decltype(dw)> dn;
+    const hn::RebindToUnsigned<decltype(dn)> du;
+    const int lanes = static_cast<int>(hn::Lanes(dw));
+
+    auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
+        auto r = hn::Zero(dn);
+        if constexpr (B != arith::Band::Zero) {
+            const auto v = Combine<Op, T>(dw, Widen(dw, hn::LoadU(dn, pv)), Widen(dw, hn::LoadU(dn, qv)));
+            r = Narrow(dn, dw, ScaleStep<B>(dw, v, args));
+        }
+        if (keep != nullptr) {
+            const auto kept = hn::MaskFromVec(hn::LoadU(du, keep + j * lanes));
+            r = hn::BitCast(dn, hn::IfThenElse(kept, hn::BitCast(du, hn::LoadU(dn, out)), hn::BitCast(du, r)));
+        }
+        hn::StoreU(r, dn, out);
+    };
+
+    int x = 0;
+    int j = 0;  // vector index within the pattern
+    for (; x + lanes <= n; x += lanes) {
+        vectorStep(p + x, qPattern ? q + j * lanes : q + x, dst + x, j);
+        if (++j == period) j = 0;
+    }
+    if (x < n) {
+        const int rest = n - x;
+        HWY_ALIGN T tailP[hn::MaxLanes(dw)] = {};
+        HWY_ALIGN T tailQ[hn::MaxLanes(dw)] = {};
+        HWY_ALIGN T tailDst[hn::MaxLanes(dw)] = {};
+        std::memcpy(tailP, p + x, rest * sizeof(T));
+        std::memcpy(tailQ, qPattern ? q + j * lanes : q + x, (qPattern ? lanes : rest) * sizeof(T));
+        std::memcpy(tailDst, dst + x, rest * sizeof(T));
+        vectorStep(tailP, tailQ, tailDst, j);
+        std::memcpy(dst + x, tailDst, rest * sizeof(T));
+    }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#endif  // ZEL_ARITH_BINARY_ROW_INL_H_
