@@ -5,6 +5,7 @@
 // Include after the per-target kernels (binary_row-inl.h) inside HWY_ONCE.
 #pragma once
 
+#include <climits>
 #include <cstdint>
 #include <type_traits>
 
@@ -35,11 +36,9 @@ constexpr bool takesZeroShortcut() {
     if constexpr (kOneOf<T, Zel8u, Zel16s>) return L == Layout::C1;
     if constexpr (std::is_same_v<T, Zel16u>)
         return L == Layout::C1 && (!std::is_same_v<Op, MulOp> || isConst);
-    if constexpr (std::is_same_v<T, Zel16sc>) {
-        if (!isConst) return false;
-        if (std::is_same_v<Op, MulOp>) return L != Layout::C4;
-        return L == Layout::C1 || L == Layout::C3;
-    }
+    // 16sc AC4 computes its zeros: no Set leaves every fourth complex
+    // element alone.
+    if constexpr (std::is_same_v<T, Zel16sc>) return isConst && (L == Layout::C1 || L == Layout::C3);
     return false;
 }
 
@@ -67,29 +66,30 @@ bool forksRows(ZeliSize roi) {
     }
 }
 
-// Zero fill through the exported Set of the same element size (16u and
-// 16sc have none of their own; 16s and 32s write the same bits).
+// Zero fill through the exported Set of the element's base type (16u has
+// none of its own; 16s writes the same bits). A complex row is filled as a
+// row of its parts, which need not be aligned for the wider type.
 template <class T, Layout L>
 ZelStatus zeroFill(T* dst, int step, ZeliSize roi) {
-    static_assert(sizeof(T) == 1 || sizeof(T) == 2 || sizeof(T) == 4);
-    using S = std::conditional_t<sizeof(T) == 1, Zel8u, std::conditional_t<sizeof(T) == 2, Zel16s, Zel32s>>;
-    S* d = reinterpret_cast<S*>(dst);
-    const S zeros[4] = {};
-    if constexpr (std::is_same_v<S, Zel8u>) {
-        if constexpr (L == Layout::C1) return zeliSet_8u_C1R(0, d, step, roi);
-        if constexpr (L == Layout::C3) return zeliSet_8u_C3R(zeros, d, step, roi);
-        if constexpr (L == Layout::C4) return zeliSet_8u_C4R(zeros, d, step, roi);
-        if constexpr (L == Layout::AC4) return zeliSet_8u_AC4R(zeros, d, step, roi);
-    } else if constexpr (std::is_same_v<S, Zel16s>) {
+    using B = BaseOf<T>;
+    static_assert(sizeof(B) == 1 || sizeof(B) == 2);
+    if constexpr (kIsComplex<T>) {
+        static_assert(L != Layout::AC4, "no Set skips every fourth complex element");
+        const ZeliSize parts{roi.width * kChannels<L> * 2, roi.height};
+        return zeliSet_16s_C1R(0, reinterpret_cast<Zel16s*>(dst), step, parts);
+    } else if constexpr (sizeof(B) == 1) {
+        const Zel8u zeros[4] = {};
+        if constexpr (L == Layout::C1) return zeliSet_8u_C1R(0, dst, step, roi);
+        if constexpr (L == Layout::C3) return zeliSet_8u_C3R(zeros, dst, step, roi);
+        if constexpr (L == Layout::C4) return zeliSet_8u_C4R(zeros, dst, step, roi);
+        if constexpr (L == Layout::AC4) return zeliSet_8u_AC4R(zeros, dst, step, roi);
+    } else {
+        const Zel16s zeros[4] = {};
+        Zel16s* d = reinterpret_cast<Zel16s*>(dst);
         if constexpr (L == Layout::C1) return zeliSet_16s_C1R(0, d, step, roi);
         if constexpr (L == Layout::C3) return zeliSet_16s_C3R(zeros, d, step, roi);
         if constexpr (L == Layout::C4) return zeliSet_16s_C4R(zeros, d, step, roi);
         if constexpr (L == Layout::AC4) return zeliSet_16s_AC4R(zeros, d, step, roi);
-    } else {
-        if constexpr (L == Layout::C1) return zeliSet_32s_C1R(0, d, step, roi);
-        if constexpr (L == Layout::C3) return zeliSet_32s_C3R(zeros, d, step, roi);
-        if constexpr (L == Layout::C4) return zeliSet_32s_C4R(zeros, d, step, roi);
-        if constexpr (L == Layout::AC4) return zeliSet_32s_AC4R(zeros, d, step, roi);
     }
 }
 
@@ -151,7 +151,8 @@ ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int d
 
     const Band band = chooseBand<Op, T>(scale);
     if constexpr (takesZeroShortcut<Op, T, L, F>())
-        if (band == Band::Zero) return zeroFill<T, L>(dst, dstStep, roi);
+        if (band == Band::Zero && std::int64_t{roi.width} * kChannels<L> * 2 <= INT_MAX)
+            return zeroFill<T, L>(dst, dstStep, roi);
 
     constexpr int kSub = kIsComplex<T> ? 2 : 1;  // base elements per channel
     constexpr int kPeriod = kChannels<L> * kSub;
@@ -176,9 +177,12 @@ ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int d
     const ScaleArgs args = scaleArgs<Op, T>(scale);
     const bool fork = forksRows<Op, T, L, F>(roi);
     const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
+    // Contiguous rows run as one, unless the rows are split among threads
+    // or the one row's element count would not fit the kernel's counter.
     ZeliSize rows = roi;
-    if (!fork) rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
-                              : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
+    if (!fork && std::int64_t{roi.width} * roi.height * kPeriod <= INT_MAX)
+        rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
+                       : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
     const int n = rows.width * kPeriod;
     const B* pBase = reinterpret_cast<const B*>(p);
     B* dBase = reinterpret_cast<B*>(dst);

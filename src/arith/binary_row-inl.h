@@ -34,15 +34,43 @@ namespace zel {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Lane type in which an operation on T is carried out exactly: 32-bit
-// signed lanes hold every sum, difference and 16-bit signed product; the
-// unsigned 16-bit products need all 32 bits unsigned.
-template <class Op, class T>
+// Lane type in which an operation on T is carried out exactly. Sums and
+// differences of 8-bit values fit 16-bit signed lanes and their products
+// 16-bit unsigned lanes; the 16-bit types need 32-bit lanes, unsigned for
+// the unsigned products. Saturating sums and differences (s = 0) and the
+// halved 8-bit and 16-bit unsigned sums (s = 1) stay in the element's own
+// lanes.
+template <class Op, class T, arith::Band B>
+inline constexpr bool kNativeLanes =
+    std::is_integral_v<T> && !std::is_same_v<T, std::int32_t> &&
+    ((B == arith::Band::Plain && (std::is_same_v<Op, arith::AddOp> || std::is_same_v<Op, arith::SubOp>)) ||
+     (B == arith::Band::One && std::is_same_v<Op, arith::AddOp> && std::is_unsigned_v<T>));
+
+template <class Op>
+inline constexpr bool kIsProduct = std::is_same_v<Op, arith::MulOp> || std::is_same_v<Op, arith::MulScaleOp>;
+
+template <class Op, class T, arith::Band B>
 using WideLane = std::conditional_t<
-    std::is_floating_point_v<T>, T,
-    std::conditional_t<std::is_same_v<T, std::uint16_t> &&
-                           (std::is_same_v<Op, arith::MulOp> || std::is_same_v<Op, arith::MulScaleOp>),
-                       std::uint32_t, std::int32_t>>;
+    std::is_floating_point_v<T> || kNativeLanes<Op, T, B>, T,
+    std::conditional_t<sizeof(T) == 1, std::conditional_t<kIsProduct<Op>, std::uint16_t, std::int16_t>,
+                       std::conditional_t<std::is_same_v<T, std::uint16_t> && kIsProduct<Op>,
+                                          std::uint32_t, std::int32_t>>>;
+
+// Saturating sum or difference, or the sum halved with ties to even, in the
+// element's own lanes.
+template <class Op, arith::Band B, class D, class V>
+HWY_INLINE V NativeStep(D d, V p, V q) {
+    if constexpr (B == arith::Band::One) {
+        // The rounded-up average is one too high exactly when the sum is
+        // odd and that average is odd.
+        const V up = hn::AverageRound(p, q);
+        return hn::Sub(up, hn::And(hn::And(hn::Xor(p, q), up), hn::Set(d, 1)));
+    } else if constexpr (std::is_same_v<Op, arith::AddOp>) {
+        return hn::SaturatedAdd(p, q);
+    } else {
+        return hn::SaturatedSub(p, q);
+    }
+}
 
 template <class DW, class V>
 HWY_INLINE auto Widen(DW dw, V v) {
@@ -124,7 +152,7 @@ HWY_INLINE V ScaleStep(DW dw, V v, const arith::ScaleArgs& a) {
 template <class Op, class T, arith::Band B>
 void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
                const BitsOf<T>* keep, const arith::ScaleArgs& args) {
-    using W = WideLane<Op, T>;
+    using W = WideLane<Op, T, B>;
     const hn::ScalableTag<W> dw;
     const hn::Rebind<T, decltype(dw)> dn;
     const hn::RebindToUnsigned<decltype(dn)> du;
@@ -132,7 +160,9 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
 
     auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
         auto r = hn::Zero(dn);
-        if constexpr (B != arith::Band::Zero) {
+        if constexpr (kNativeLanes<Op, T, B>) {
+            r = NativeStep<Op, B>(dn, hn::LoadU(dn, pv), hn::LoadU(dn, qv));
+        } else if constexpr (B != arith::Band::Zero) {
             const auto v = Combine<Op, T>(dw, Widen(dw, hn::LoadU(dn, pv)), Widen(dw, hn::LoadU(dn, qv)));
             r = Narrow(dn, dw, ScaleStep<B>(dw, v, args));
         }

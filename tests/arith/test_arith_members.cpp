@@ -130,8 +130,8 @@ TEST(ArithMembers, EveryMemberMatchesTheRule8u) { checkAll(zel::test::members8u(
 TEST(ArithMembers, EveryMemberMatchesTheRule16u) { checkAll(zel::test::members16u(), {-17, -3, 0, 1, 9, 17, 33}); }
 TEST(ArithMembers, EveryMemberMatchesTheRule16s) { checkAll(zel::test::members16s(), {-16, -15, -2, 0, 1, 16, 30, 31}); }
 TEST(ArithMembers, EveryMemberMatchesTheRuleComplex) {
-    checkAll(zel::test::members16sc(), {-17, -1, 0, 1, 16, 17, 31, 32});
-    checkAll(zel::test::members32sc(), {-33, -1, 0, 1, 31, 33, 63, 64, 65});
+    checkAll(zel::test::members16sc(), {-17, 0, 1, 17, 32});
+    checkAll(zel::test::members32sc(), {-33, 0, 1, 33, 64});
     checkAll(zel::test::members32fc(), {0});
 }
 TEST(ArithMembers, EveryMemberMatchesTheRule32f) { checkAll(zel::test::members32f(), {0}); }
@@ -143,7 +143,8 @@ template <class T>
 void checkSamples(const std::vector<Member<T>>& members) {
     for (const auto& m : members) {
         if (m.channels != 1 || m.inPlace) continue;
-        for (int scale = -34; scale <= 66; scale += (scale > -18 && scale < 34) ? 1 : 16) {
+        for (int scale : {-34, -18, -17, -16, -15, -9, -1, 0, 1, 2, 8, 15, 16, 17, 18, 30, 31, 32, 33, 34, 63,
+                          64, 65, 66}) {
             checkMember(m, {301, 7}, 0, m.op == zel::test::Op::MulScale ? 0 : scale, 7u * scale + 1000);
             if (testing::Test::HasFatalFailure()) return;
         }

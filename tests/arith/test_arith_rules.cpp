@@ -95,7 +95,7 @@ TEST(Arith8u, DocumentedBandEdges) {
 template <class T, class Call>
 void expectZeros(int channels, int computed, Call&& call) {
     const ZeliSize roi{19, 5};
-    Image<T> src(roi, channels, -1, 2), dst(roi, channels, computed, 6);
+    Image<T> src(roi, channels, -1, alignof(T)), dst(roi, channels, computed, 3 * alignof(T));
     ASSERT_EQ(call(src.roi(), src.step(), dst.roi(), dst.step(), roi), zelStatusOk);
     T zero;
     std::memset(&zero, 0, sizeof(T));
