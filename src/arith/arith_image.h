@@ -101,11 +101,11 @@ using RowKernel = void (*)(const B* p, const B* q, bool qPattern, B* dst, int n,
 constexpr int kPatternLength = 8 * 64;
 
 // The row kernel of an operation on T for a band: the SIMD kernel of the
-// best target, or the scalar one for complex products and 32sc, whose exact
-// values do not fit 32-bit lanes.
+// best target, or the scalar one for the integer complex products and for
+// 32sc, whose exact values do not fit 32-bit lanes.
 template <class Op, class T>
 inline constexpr bool kScalarRow =
-    kIsComplex<T> && (std::is_same_v<Op, MulOp> || std::is_same_v<BaseOf<T>, Zel32s>);
+    kIsComplex<T> && !kIsFloat<T> && (std::is_same_v<Op, MulOp> || std::is_same_v<BaseOf<T>, Zel32s>);
 
 namespace {
 
@@ -115,6 +115,9 @@ RowKernel<BaseOf<T>> rowKernel(Band band) {
     if constexpr (kScalarRow<Op, T>) {
         if (band == Band::Zero) return &ComplexRow<Op, B, Band::Zero>;
         return &ComplexRow<Op, B, Band::Plain>;  // applies the full rule per part
+    } else if constexpr (std::is_same_v<T, Zel32fc> && std::is_same_v<Op, MulOp>) {
+        (void)band;
+        return ZEL_DISPATCH(BinaryRow<ComplexMulOp, B, Band::Plain>);
     } else if constexpr (std::is_floating_point_v<B> || std::is_same_v<Op, MulScaleOp>) {
         (void)band;
         return ZEL_DISPATCH(BinaryRow<Op, B, Band::Plain>);

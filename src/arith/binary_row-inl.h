@@ -107,6 +107,15 @@ HWY_INLINE V Combine(DW dw, V p, V q) {
         return hn::Sub(p, q);
     } else if constexpr (std::is_same_v<Op, arith::MulOp>) {
         return hn::Mul(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::ComplexMulOp>) {
+        // Lanes hold (re, im) pairs. With q's real part in both lanes of a
+        // pair and then its imaginary part, and p's parts swapped:
+        // even lanes re = p.re q.re - p.im q.im, odd lanes im = p.im q.re + p.re q.im,
+        // each product rounded on its own as in the scalar formula.
+        const V byReal = hn::Mul(p, hn::DupEven(q));
+        const V byImag = hn::Mul(hn::Shuffle2301(p), hn::DupOdd(q));
+        (void)dw;
+        return hn::OddEven(hn::Add(byReal, byImag), hn::Sub(byReal, byImag));
     } else {
         constexpr int kBits = int(sizeof(T) * 8);
         const V product = hn::Mul(p, q);

@@ -27,7 +27,8 @@ namespace zel::arith {
 struct AddOp {};
 struct SubOp {};
 struct MulOp {};
-struct MulScaleOp {};  // p * q as a fraction of the type's maximum
+struct MulScaleOp {};    // p * q as a fraction of the type's maximum
+struct ComplexMulOp {};  // 32fc products, computed on interleaved parts
 
 enum class Band { Plain, One, Pos, Neg, Bound, Zero };
 
