@@ -299,8 +299,9 @@ ZELAPI ZelStatus zeliSet_32f_AC4R(const Zel32f value[], Zel32f* pDst, int dstSte
 /* ==== Image arithmetic ==================================================== */
 /* Add: pDst = pSrc1 + pSrc2 (in place: pSrcDst += pSrc). Integer results are
    multiplied by 2^-scaleFactor, rounded half to even and saturated; a scale
-   factor that makes every result 0 fills the ROI with 0. Steps are not checked
-   except by the 16sc and 32fc members. */
+   factor that makes every result 0 fills the ROI with 0. AC4 members leave the
+   fourth channel as it is. Steps are not checked except by the 16sc and 32fc
+   members. */
 ZELAPI ZelStatus zeliAdd_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
 ZELAPI ZelStatus zeliAdd_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
 ZELAPI ZelStatus zeliAdd_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);

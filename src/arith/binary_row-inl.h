@@ -176,10 +176,13 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
             r = Narrow(dn, dw, ScaleStep<B>(dw, v, args));
         }
         if (keep != nullptr) {
-            const auto kept = hn::MaskFromVec(hn::LoadU(du, keep + j * lanes));
-            r = hn::BitCast(dn, hn::IfThenElse(kept, hn::BitCast(du, hn::LoadU(dn, out)), hn::BitCast(du, r)));
+            // Masked store: targets with masked byte stores never touch the
+            // alpha; the others write back the bytes they just read.
+            const auto written = hn::Not(hn::MaskFromVec(hn::LoadU(du, keep + j * lanes)));
+            hn::BlendedStore(hn::BitCast(du, r), written, du, reinterpret_cast<BitsOf<T>*>(out));
+        } else {
+            hn::StoreU(r, dn, out);
         }
-        hn::StoreU(r, dn, out);
     };
 
     int x = 0;
