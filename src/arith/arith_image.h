@@ -101,11 +101,13 @@ using RowKernel = void (*)(const B* p, const B* q, bool qPattern, B* dst, int n,
 constexpr int kPatternLength = 8 * 64;
 
 // The row kernel of an operation on T for a band: the SIMD kernel of the
-// best target, or the scalar one for the integer complex products and for
-// 32sc, whose exact values do not fit 32-bit lanes.
+// best target, or the scalar one for 32sc, whose exact values do not fit
+// 32-bit lanes.
 template <class Op, class T>
-inline constexpr bool kScalarRow =
-    kIsComplex<T> && !kIsFloat<T> && (std::is_same_v<Op, MulOp> || std::is_same_v<BaseOf<T>, Zel32s>);
+inline constexpr bool kScalarRow = std::is_same_v<T, Zel32sc>;
+// Complex products pair the parts of each element.
+template <class Op, class T>
+using KernelOp = std::conditional_t<kIsComplex<T> && std::is_same_v<Op, MulOp>, ComplexMulOp, Op>;
 
 namespace {
 
@@ -115,22 +117,20 @@ RowKernel<BaseOf<T>> rowKernel(Band band) {
     if constexpr (kScalarRow<Op, T>) {
         if (band == Band::Zero) return &ComplexRow<Op, B, Band::Zero>;
         return &ComplexRow<Op, B, Band::Plain>;  // applies the full rule per part
-    } else if constexpr (std::is_same_v<T, Zel32fc> && std::is_same_v<Op, MulOp>) {
-        (void)band;
-        return ZEL_DISPATCH(BinaryRow<ComplexMulOp, B, Band::Plain>);
     } else if constexpr (std::is_floating_point_v<B> || std::is_same_v<Op, MulScaleOp>) {
         (void)band;
-        return ZEL_DISPATCH(BinaryRow<Op, B, Band::Plain>);
+        return ZEL_DISPATCH(BinaryRow<KernelOp<Op, T>, B, Band::Plain>);
     } else {
+        using K = KernelOp<Op, T>;
         switch (band) {
-            case Band::Plain: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Plain>);
-            case Band::One: return ZEL_DISPATCH(BinaryRow<Op, B, Band::One>);
-            case Band::Pos: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Pos>);
-            case Band::Neg: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Neg>);
-            case Band::Bound: return ZEL_DISPATCH(BinaryRow<Op, B, Band::Bound>);
+            case Band::Plain: return ZEL_DISPATCH(BinaryRow<K, B, Band::Plain>);
+            case Band::One: return ZEL_DISPATCH(BinaryRow<K, B, Band::One>);
+            case Band::Pos: return ZEL_DISPATCH(BinaryRow<K, B, Band::Pos>);
+            case Band::Neg: return ZEL_DISPATCH(BinaryRow<K, B, Band::Neg>);
+            case Band::Bound: return ZEL_DISPATCH(BinaryRow<K, B, Band::Bound>);
             case Band::Zero: break;
         }
-        return ZEL_DISPATCH(BinaryRow<Op, B, Band::Zero>);
+        return ZEL_DISPATCH(BinaryRow<K, B, Band::Zero>);
     }
 }
 

@@ -114,6 +114,8 @@ HWY_INLINE V Combine(DW dw, V p, V q) {
         // each product rounded on its own as in the scalar formula.
         const V byReal = hn::Mul(p, hn::DupEven(q));
         const V byImag = hn::Mul(hn::Shuffle2301(p), hn::DupOdd(q));
+        // For 16sc the imaginary sum wraps only at 2^31, to the lowest 32-bit
+        // value, which no true product reaches; the kernel replaces it.
         (void)dw;
         return hn::OddEven(hn::Add(byReal, byImag), hn::Sub(byReal, byImag));
     } else {
@@ -173,7 +175,12 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
             r = NativeStep<Op, B>(dn, hn::LoadU(dn, pv), hn::LoadU(dn, qv));
         } else if constexpr (B != arith::Band::Zero) {
             const auto v = Combine<Op, T>(dw, Widen(dw, hn::LoadU(dn, pv)), Widen(dw, hn::LoadU(dn, qv)));
-            r = Narrow(dn, dw, ScaleStep<B>(dw, v, args));
+            auto scaled = ScaleStep<B>(dw, v, args);
+            if constexpr (std::is_same_v<Op, arith::ComplexMulOp> && std::is_integral_v<T>) {
+                const auto wrapped = hn::Eq(v, hn::Set(dw, std::numeric_limits<W>::min()));
+                scaled = hn::IfThenElse(wrapped, hn::Set(dw, W(args.imagTop)), scaled);
+            }
+            r = Narrow(dn, dw, scaled);
         }
         if (keep != nullptr) {
             // Masked store: targets with masked byte stores never touch the

@@ -1,12 +1,11 @@
-// Scalar row kernel for the complex operations that pair the real and
-// imaginary parts (products), and for the 32-bit integer complex type,
-// whose exact results need more than 64 bits.
+// Scalar row kernel of the 32-bit integer complex type, whose exact sums
+// and products need more than 64 bits.
 //
 // Same row contract as the SIMD kernel: n base elements, q a row or a
-// pattern of `period` values, `keep` marking the untouched channels. The
-// products are formed exactly (64-bit for 16sc, 128-bit for 32sc) and each
-// part goes through the scale-factor rule on its own; 32fc is computed in
-// single precision.
+// pattern of `period` values, `keep` marking the untouched channels. Each
+// part is formed exactly in 128 bits and goes through the scale-factor rule
+// on its own. The kernel is written for any part type, so it is also the
+// plain statement of what the SIMD kernels compute.
 #pragma once
 
 #include <cstdint>

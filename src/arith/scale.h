@@ -28,7 +28,7 @@ struct AddOp {};
 struct SubOp {};
 struct MulOp {};
 struct MulScaleOp {};    // p * q as a fraction of the type's maximum
-struct ComplexMulOp {};  // 32fc products, computed on interleaved parts
+struct ComplexMulOp {};  // 16sc and 32fc products, computed on interleaved parts
 
 enum class Band { Plain, One, Pos, Neg, Bound, Zero };
 
@@ -106,32 +106,6 @@ constexpr Band chooseBand(int s) {
     return -s >= kBoundShift<Op, T> ? Band::Bound : Band::Neg;
 }
 
-// What a band's kernel needs besides the pixels: the scale factor, the
-// shift count, and for left shifts the largest and smallest values that
-// survive the shift without saturating (hi >> n, lo >> n).
-struct ScaleArgs {
-    int scale = 0;
-    int shift = 0;
-    std::int32_t keepHi = 0, keepLo = 0;
-};
-
-template <class Op, class T>
-ScaleArgs scaleArgs(int s) {
-    using B = BaseOf<T>;
-    ScaleArgs a;
-    if (kIsFloat<T>) return a;
-    a.scale = s;
-    if (s > 0) a.shift = s;
-    if (s < 0) {
-        a.shift = std::min(-s, kBoundShift<Op, T>);
-        if constexpr (sizeof(B) <= 2) {
-            a.keepHi = std::int32_t(std::numeric_limits<B>::max()) >> a.shift;
-            a.keepLo = std::int32_t(std::numeric_limits<B>::min()) >> a.shift;
-        }
-    }
-    return a;
-}
-
 // ---- the scalar rule ----
 
 template <class Dst, class Wide>
@@ -159,6 +133,36 @@ constexpr Dst scaleSaturate(Wide v, int s) {
         return saturate<Dst>(v * (Wide(1) << n));
     }
     return saturate<Dst>(v);
+}
+
+// What a band's kernel needs besides the pixels: the scale factor, the
+// shift count, and for left shifts the largest and smallest values that
+// survive the shift without saturating (hi >> n, lo >> n).
+struct ScaleArgs {
+    int scale = 0;
+    int shift = 0;
+    std::int32_t keepHi = 0, keepLo = 0;
+    // The 16sc product's imaginary part reaches 2^31 (for -32768 - 32768i
+    // squared), one more than 32-bit lanes hold: its result, scaled.
+    std::int32_t imagTop = 0;
+};
+
+template <class Op, class T>
+ScaleArgs scaleArgs(int s) {
+    using B = BaseOf<T>;
+    ScaleArgs a;
+    if (kIsFloat<T>) return a;
+    a.scale = s;
+    if constexpr (std::is_same_v<T, Zel16sc>) a.imagTop = scaleSaturate<Zel16s>(std::int64_t{1} << 31, s);
+    if (s > 0) a.shift = s;
+    if (s < 0) {
+        a.shift = std::min(-s, kBoundShift<Op, T>);
+        if constexpr (sizeof(B) <= 2) {
+            a.keepHi = std::int32_t(std::numeric_limits<B>::max()) >> a.shift;
+            a.keepLo = std::int32_t(std::numeric_limits<B>::min()) >> a.shift;
+        }
+    }
+    return a;
 }
 
 // The fraction-of-maximum product of MulScale: (p + 1 + (p >> bits)) >> bits

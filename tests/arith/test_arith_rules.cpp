@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include "arith/arith_members.h"
 #include "harness/checkorder.h"
 #include "harness/image.h"
 #include "harness/sweep.h"
@@ -118,6 +119,25 @@ TEST(Arith, ScaleAboveEveryResultGivesZero) {
         expectZeros<Zel16sc>(4, 3, [&](auto, int, auto d, int ds, ZeliSize r) { return zeliMulC_16sc_AC4IRSfs(v16sc, d, ds, r, 32); });
         expectZeros<Zel16sc>(3, 3, [&](auto s, int ss, auto d, int ds, ZeliSize r) { return zeliAddC_16sc_C3RSfs(s, ss, v16sc, d, ds, r, 17); });
         expectZeros<Zel32sc>(4, 3, [](auto s, int ss, auto d, int ds, ZeliSize r) { return zeliMul_32sc_AC4RSfs(s, ss, s, ss, d, ds, r, 64); });
+    });
+}
+
+// The largest complex product, (-32768 - 32768i)^2 = 0 + 2^31 i, and its
+// neighbours, across the bands: the imaginary part needs 33 bits.
+TEST(Arith, ComplexProductsAtTheTypeExtremes) {
+    const Zel16sc lo{-32768, -32768}, mixed{-32768, 32767};
+    zel::test::forEachConfig([&] {
+        for (int s : {-20, -1, 0, 1, 2, 15, 16, 17, 30, 31, 32}) {
+            Zel16sc src[5] = {lo, lo, mixed, lo, mixed}, dst[5];
+            const Zel16sc other[5] = {lo, mixed, mixed, lo, lo};
+            ASSERT_EQ(zeliMul_16sc_C1RSfs(other, 20, src, 20, dst, 20, {5, 1}, s), zelStatusOk);
+            for (int i = 0; i < 5; ++i) {
+                Zel16sc expected;
+                zel::test::referenceOp(zel::test::Op::Mul, src[i], other[i], s, expected);
+                EXPECT_EQ(dst[i].re, expected.re) << "scale " << s << " element " << i;
+                EXPECT_EQ(dst[i].im, expected.im) << "scale " << s << " element " << i;
+            }
+        }
     });
 }
 
