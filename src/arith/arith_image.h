@@ -178,10 +178,11 @@ ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int d
 
     const RowKernel<B> row = rowKernel<Op, T>(band);
     const ScaleArgs args = scaleArgs<Op, T>(scale);
-    const bool fork = forksRows<Op, T, L, F>(roi);
+    const bool fork = forksRows<Op, T, L, F>(roi) && ownGetNumThreads() > 1;
     const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
     // Contiguous rows run as one, unless the rows are split among threads
-    // or the one row's element count would not fit the kernel's counter.
+    // (which gives the same results) or the one row's element count would
+    // not fit the kernel's counter.
     ZeliSize rows = roi;
     if (!fork && std::int64_t{roi.width} * roi.height * kPeriod <= INT_MAX)
         rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})

@@ -169,19 +169,27 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
     const hn::RebindToUnsigned<decltype(dn)> du;
     const int lanes = static_cast<int>(hn::Lanes(dw));
 
-    auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
-        auto r = hn::Zero(dn);
+    // One vector of results from the vectors at pv and qv.
+    auto compute = [&](const T* pv, const T* qv) HWY_ATTR {
         if constexpr (kNativeLanes<Op, T, B>) {
-            r = NativeStep<Op, B>(dn, hn::LoadU(dn, pv), hn::LoadU(dn, qv));
-        } else if constexpr (B != arith::Band::Zero) {
+            return NativeStep<Op, B>(dn, hn::LoadU(dn, pv), hn::LoadU(dn, qv));
+        } else if constexpr (B == arith::Band::Zero) {
+            (void)pv;
+            (void)qv;
+            return hn::Zero(dn);
+        } else {
             const auto v = Combine<Op, T>(dw, Widen(dw, hn::LoadU(dn, pv)), Widen(dw, hn::LoadU(dn, qv)));
             auto scaled = ScaleStep<B>(dw, v, args);
             if constexpr (std::is_same_v<Op, arith::ComplexMulOp> && std::is_integral_v<T>) {
                 const auto wrapped = hn::Eq(v, hn::Set(dw, std::numeric_limits<W>::min()));
                 scaled = hn::IfThenElse(wrapped, hn::Set(dw, W(args.imagTop)), scaled);
             }
-            r = Narrow(dn, dw, scaled);
+            return Narrow(dn, dw, scaled);
         }
+    };
+    // Vector j of the pattern, stored at out.
+    auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
+        const auto r = compute(pv, qv);
         if (keep != nullptr) {
             // Masked store: targets with masked byte stores never touch the
             // alpha; the others write back the bytes they just read.
@@ -194,6 +202,15 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
 
     int x = 0;
     int j = 0;  // vector index within the pattern
+    if (!qPattern && keep == nullptr) {
+        for (; x + 2 * lanes <= n; x += 2 * lanes) {
+            const auto r0 = compute(p + x, q + x);
+            const auto r1 = compute(p + x + lanes, q + x + lanes);
+            hn::StoreU(r0, dn, dst + x);
+            hn::StoreU(r1, dn, dst + x + lanes);
+        }
+        j = (x / lanes) % period;
+    }
     for (; x + lanes <= n; x += lanes) {
         vectorStep(p + x, qPattern ? q + j * lanes : q + x, dst + x, j);
         if (++j == period) j = 0;
