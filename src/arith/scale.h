@@ -38,21 +38,17 @@ struct Element {
     using Base = T;
     static constexpr bool kComplex = false;
 };
-template <>
-struct Element<Zel16sc> {
-    using Base = Zel16s;
+template <class B>
+struct ComplexElement {
+    using Base = B;
     static constexpr bool kComplex = true;
 };
 template <>
-struct Element<Zel32sc> {
-    using Base = Zel32s;
-    static constexpr bool kComplex = true;
-};
+struct Element<Zel16sc> : ComplexElement<Zel16s> {};
 template <>
-struct Element<Zel32fc> {
-    using Base = Zel32f;
-    static constexpr bool kComplex = true;
-};
+struct Element<Zel32sc> : ComplexElement<Zel32s> {};
+template <>
+struct Element<Zel32fc> : ComplexElement<Zel32f> {};
 
 template <class T>
 using BaseOf = typename Element<T>::Base;

@@ -24,21 +24,17 @@ struct Parts {
     using Base = T;
     static constexpr int kCount = 1;
 };
-template <>
-struct Parts<Zel16sc> {
-    using Base = Zel16s;
+template <class B>
+struct ComplexParts {
+    using Base = B;
     static constexpr int kCount = 2;
 };
 template <>
-struct Parts<Zel32sc> {
-    using Base = Zel32s;
-    static constexpr int kCount = 2;
-};
+struct Parts<Zel16sc> : ComplexParts<Zel16s> {};
 template <>
-struct Parts<Zel32fc> {
-    using Base = Zel32f;
-    static constexpr int kCount = 2;
-};
+struct Parts<Zel32sc> : ComplexParts<Zel32s> {};
+template <>
+struct Parts<Zel32fc> : ComplexParts<Zel32f> {};
 
 // The rule as written: multiply by 2^-s, ties to even, saturate.
 template <class D>
