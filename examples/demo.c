@@ -96,8 +96,27 @@ int main(int argc, char** argv) {
     const Zel8u marker[3] = {255, 255, 255};
     STEP("Set_8u_C3R: white band in a ROI", zeliSet_8u_C3R(marker, framed + 16 * framedStep + 3 * 16,
                                                           framedStep, (ZeliSize){inner.width + 32, 8}));
+    STEP("Copy_8u_C3R: the picture's centre into the frame",
+         zeliCopy_8u_C3R(rgb + 32 * rgbStep + 3 * 32, rgbStep, framed + 32 * framedStep + 3 * 32,
+                         framedStep, inner));
     save("framed.png", framed, framedStep, size, 3);
 
+    /* Channel exchange: red and blue swapped in place of a copy, then the
+       picture turned on its side. */
+    int swappedStep = 0, turnedStep = 0;
+    Zel8u* swapped = zeliMalloc_8u_C3(size.width, size.height, &swappedStep);
+    Zel8u* turned = zeliMalloc_8u_C3(size.height, size.width, &turnedStep);
+    if (!swapped || !turned) return 1;
+    const int blueRedGreen[3] = {2, 0, 1};
+    STEP("SwapChannels_8u_C3R: channels to B, R, G",
+         zeliSwapChannels_8u_C3R(rgb, rgbStep, swapped, swappedStep, size, blueRedGreen));
+    save("swapped.png", swapped, swappedStep, size, 3);
+    STEP("Transpose_8u_C3R: rows become columns",
+         zeliTranspose_8u_C3R(rgb, rgbStep, turned, turnedStep, size));
+    save("transposed.png", turned, turnedStep, (ZeliSize){size.height, size.width}, 3);
+
+    zeliFree(turned);
+    zeliFree(swapped);
     zeliFree(framed);
     zeliFree(rgb);
     return 0;

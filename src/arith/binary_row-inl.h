@@ -28,6 +28,7 @@
 
 #include "arith/scale.h"
 #include "core/pixel.h"
+#include "core/store_under_mask-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace zel {
@@ -191,10 +192,8 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
     auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
         const auto r = compute(pv, qv);
         if (keep != nullptr) {
-            // Masked store: targets with masked byte stores never touch the
-            // alpha; the others write back the bytes they just read.
             const auto written = hn::Not(hn::MaskFromVec(hn::LoadU(du, keep + j * lanes)));
-            hn::BlendedStore(hn::BitCast(du, r), written, du, reinterpret_cast<BitsOf<T>*>(out));
+            StoreUnderMask(hn::BitCast(du, r), written, du, reinterpret_cast<BitsOf<T>*>(out));
         } else {
             hn::StoreU(r, dn, out);
         }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <type_traits>
+#include <utility>
 
 #include "zeli.h"
 
@@ -35,6 +36,16 @@ inline ZeliSize collapseRows(ZeliSize roi, std::int64_t rowBytes, std::initializ
     const std::int64_t pixels = std::int64_t{roi.width} * roi.height;
     if (pixels > INT_MAX) return roi;
     return ZeliSize{static_cast<int32_t>(pixels), 1};
+}
+
+// The same for operands whose rows differ in length (layout changes): every
+// operand's step must equal its own row length in bytes.
+inline ZeliSize collapseRows(ZeliSize roi,
+                             std::initializer_list<std::pair<int, std::int64_t>> stepAndRowBytes) {
+    for (const auto& [step, rowBytes] : stepAndRowBytes)
+        if (step != rowBytes) return roi;
+    const std::int64_t pixels = std::int64_t{roi.width} * roi.height;
+    return pixels > INT_MAX ? roi : ZeliSize{static_cast<int32_t>(pixels), 1};
 }
 
 }  // namespace zel

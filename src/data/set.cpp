@@ -3,11 +3,16 @@
 // The value is replicated into a pattern of whole pixels as long as
 // `channels` vectors, so every vector store begins on a pixel boundary;
 // AC4 stores are masked so the alpha channel is never written. Large fills
-// use non-temporal stores.
+// use non-temporal stores. A channel of interest (CR) is filled the same
+// way from its own address, as channel 0 of pixels that start there; the
+// last pixel of a row is written alone since its other channels may end
+// the caller's image. Masked fills are channel moves (channel_kernels).
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "data/set.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
+
+#include "core/store_under_mask-inl.h"
 
 #include <hwy/cache_control.h>
 
@@ -51,7 +56,7 @@ void FillRow(T* HWY_RESTRICT dst, int pixels, const T* HWY_RESTRICT value, bool 
             const auto p = hn::Load(d, pattern + v * lanes);
             if constexpr (Written < C) {
                 const auto m = hn::MaskFromVec(hn::Load(d, written + v * lanes));
-                hn::BlendedStore(p, m, d, out + v * lanes);
+                StoreUnderMask(p, m, d, out + v * lanes);
             } else if (stream) {
                 hn::Stream(p, d, out + v * lanes);
             } else {
@@ -73,12 +78,21 @@ HWY_AFTER_NAMESPACE();
 #include "core/image.h"
 #include "core/pixel.h"
 #include "core/simd.h"
+#include "data/channel_kernels.h"
+#include "data/copy_rows.h"
 
 namespace zel {
 namespace {
 
-// Fills larger than this many bytes bypass the caches.
+// Fills larger than this many bytes bypass the caches, unless the image
+// would fit in the largest cache (filling it through the cache is faster
+// then, and leaves the result where the next operation reads it).
 constexpr std::int64_t kSetStreamBytes = 4194304;
+
+bool streamFill(std::int64_t bytes) {
+    const int cache = largestCacheBytes();
+    return bytes > kSetStreamBytes && (cache == 0 || bytes >= cache / 2);
+}
 
 template <class T, Layout L>
 ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
@@ -89,11 +103,39 @@ ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
     for (int c = 0; c < kComputed<L>; ++c) std::memcpy(&pixel[c], &value[c], sizeof(T));
 
     const std::int64_t rowBytes = std::int64_t{roi.width} * C * sizeof(T);
-    const bool stream = rowBytes * roi.height > kSetStreamBytes;
+    const bool stream = streamFill(rowBytes * roi.height);
     const ZeliSize rows = L == Layout::AC4 ? roi : collapseRows(roi, rowBytes, {dstStep});
     const auto fillRow = ZEL_DISPATCH(FillRow<B, C, kComputed<L>>);
     B* dst = reinterpret_cast<B*>(pDst);
     for (int y = 0; y < rows.height; ++y) fillRow(rowAt(dst, dstStep, y), rows.width, pixel, stream);
+    return zelStatusOk;
+}
+
+template <class T, Layout L>
+ZelStatus setMasked(const T* value, T* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask,
+                    int maskStep) {
+    if (ZelStatus st = Check().ptrs(value, pDst, pMask).roi(roi)) return st;
+    using B = BitsOf<T>;
+    B pixel[kChannels<L>] = {};
+    std::memcpy(pixel, value, kComputed<L> * sizeof(T));
+    maskedFillImage<B, kChannels<L>, kComputed<L>>(pixel, reinterpret_cast<B*>(pDst), dstStep, roi,
+                                                   pMask, maskStep);
+    return zelStatusOk;
+}
+
+template <class T, int C>
+ZelStatus setChannel(T value, T* pDst, int dstStep, ZeliSize roi) {
+    if (ZelStatus st = Check().ptrs(pDst).roi(roi)) return st;
+    using B = BitsOf<T>;
+    B pixel[C] = {};
+    std::memcpy(pixel, &value, sizeof(T));
+    const auto fillRow = ZEL_DISPATCH(FillRow<B, C, 1>);
+    B* dst = reinterpret_cast<B*>(pDst);
+    for (int y = 0; y < roi.height; ++y) {
+        B* row = rowAt(dst, dstStep, y);
+        fillRow(row, roi.width - 1, pixel, false);
+        row[(roi.width - 1) * C] = pixel[0];
+    }
     return zelStatusOk;
 }
 
@@ -111,8 +153,25 @@ ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
                                            int dstStep, ZeliSize roi) {           \
         return zel::setImage<Zel##type, zel::Layout::layout>(value, pDst, dstStep, roi); \
     }
-#define ZELI_SET_ALL_LAYOUTS(type) \
-    ZELI_SET_C1(type) ZELI_SET(type, C3) ZELI_SET(type, C4) ZELI_SET(type, AC4)
+#define ZELI_SET_MASKED_C1(type)                                                                 \
+    ZelStatus zeliSet_##type##_C1MR(Zel##type value, Zel##type* pDst, int dstStep, ZeliSize roi,   \
+                                    const Zel8u* pMask, int maskStep) {                            \
+        return zel::setMasked<Zel##type, zel::Layout::C1>(&value, pDst, dstStep, roi, pMask, maskStep); \
+    }
+#define ZELI_SET_MASKED(type, layout)                                                              \
+    ZelStatus zeliSet_##type##_##layout##MR(const Zel##type value[], Zel##type* pDst, int dstStep,  \
+                                            ZeliSize roi, const Zel8u* pMask, int maskStep) {       \
+        return zel::setMasked<Zel##type, zel::Layout::layout>(value, pDst, dstStep, roi, pMask,     \
+                                                              maskStep);                           \
+    }
+#define ZELI_SET_CHANNEL(type, C)                                                                  \
+    ZelStatus zeliSet_##type##_C##C##CR(Zel##type value, Zel##type* pDst, int dstStep, ZeliSize roi) { \
+        return zel::setChannel<Zel##type, C>(value, pDst, dstStep, roi);                           \
+    }
+#define ZELI_SET_ALL_LAYOUTS(type)                                                   \
+    ZELI_SET_C1(type) ZELI_SET(type, C3) ZELI_SET(type, C4) ZELI_SET(type, AC4)      \
+    ZELI_SET_MASKED_C1(type) ZELI_SET_MASKED(type, C3) ZELI_SET_MASKED(type, C4)     \
+    ZELI_SET_MASKED(type, AC4) ZELI_SET_CHANNEL(type, 3) ZELI_SET_CHANNEL(type, 4)
 
 ZELI_SET_ALL_LAYOUTS(8u)
 ZELI_SET_ALL_LAYOUTS(16u)

@@ -1,0 +1,260 @@
+// Division kernels and the row loop that drives them.
+//
+// The 8u, 16u and 16s kernels divide in floating point and still give the
+// exact rounded quotient. With P = dividend * 2^max(-s,0) and
+// Q = divisor * 2^max(s,0) (integers; the scale factor has been moved into
+// its band, see bandScale), x = fl(P / Q) is correctly rounded. An exact
+// quotient that is not an integer lies at least 1/Q away from every
+// integer, one that is not a half-integer at least 1/(2Q) away from every
+// half-integer, while x is off by at most |P/Q| * 2^-p for a p-bit
+// significand: less than 1/(2Q) whenever |P| < 2^(p-1). Integers and
+// half-integers are themselves exact in x. So x lies on the same side of
+// every integer and half-integer as the exact quotient, and rounding x
+// rounds the exact quotient, ties included. 8u uses single precision
+// (|P| <= 255 * 2^15 < 2^23; at s = -16 every non-zero result saturates
+// anyway), 16u and 16s double precision (|P| < 2^48).
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "arith/div_engine.cpp"
+#include <hwy/foreach_target.h>  // IWYU pragma: keep
+#include <hwy/highway.h>
+
+#include <hwy/cache_control.h>
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "arith/div_rounding.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Elements [begin, begin + count) of one row; with `Alpha` every fourth
+// element (AC4 alpha) is neither read for the warning nor written.
+template <class T, bool Alpha>
+std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
+                          int scale, bool /*stream*/) {
+    using F = std::conditional_t<sizeof(T) == 1, float, double>;
+    const hn::ScalableTag<F> df;
+    const hn::RebindToUnsigned<decltype(df)> du;
+    const hn::Rebind<std::int32_t, decltype(df)> di;
+    const hn::Rebind<T, decltype(df)> dt;
+    const hn::Rebind<std::make_unsigned_t<T>, decltype(df)> dtu;
+    const int lanes = static_cast<int>(hn::Lanes(df));
+    const auto load = [&](const T* p) {
+        if constexpr (sizeof(T) == 1)
+            return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+        else
+            return hn::PromoteTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+    };
+    // Adding 1.5 * 2^(p-1) to an integral value in T's range puts it, in
+    // two's complement, into the low bits of the significand.
+    const auto magic = hn::Set(df, F(std::ldexp(1.5, std::numeric_limits<F>::digits - 1)));
+    const auto toT = [&](auto integral) {
+        return hn::BitCast(dt, hn::TruncateTo(dtu, hn::BitCast(du, hn::Add(integral, magic))));
+    };
+    // x = dividend / (divisor * 2^s) is the quotient (dividend * 2^-s) / divisor
+    // exactly rounded. A zero divisor becomes a tiny one: the quotient then
+    // saturates to the sign of the dividend, and 0 / tiny stays 0.
+    const auto divisorScale = hn::Set(df, F(std::ldexp(1.0, scale)));
+    const auto tiny = hn::Set(df, F(std::ldexp(1.0, -40)));
+    const auto lo = hn::Set(df, F(div::kLowest<T>));
+    const auto hi = hn::Set(df, F(div::kHighest<T>));
+    const auto half = hn::Set(df, F(0.5));
+    // Increments of the truncated magnitude above one half, and at exactly
+    // one half for an odd and for any truncated value.
+    const auto aboveHalf = hn::Set(df, F(mode == div::kTowardZero ? 0 : 1));
+    const auto tieIfOdd = hn::Set(df, F(mode == div::kNearestEven ? 1 : 0));
+    const auto tieAlways = hn::Set(df, F(mode == div::kHalfAway ? 1 : 0));
+
+    const hn::RebindToSigned<decltype(df)> ds;
+    auto zeroLanes = hn::Zero(ds);  // zero divisors per lane (a true mask is -1)
+    int i = begin;
+    const int end = begin + count;
+    for (; i + lanes <= end; i += lanes) {
+        const auto a = load(divisor + i);
+        auto zero = hn::Eq(a, hn::Zero(df));
+        const auto scaled = scale == 0 ? a : hn::Mul(a, divisorScale);
+        auto x = hn::Div(load(dividend + i), hn::IfThenElse(zero, tiny, scaled));
+        x = hn::Min(x, hi);
+        if constexpr (std::is_signed_v<T>) x = hn::Max(x, lo);
+        hn::Vec<decltype(df)> q;
+        if (mode == div::kNearestEven) {
+            q = hn::Round(x);
+        } else {
+            const auto t = hn::Trunc(x);
+            const auto frac = hn::Abs(hn::Sub(x, t));
+            const auto odd = hn::Ne(hn::Trunc(hn::Mul(t, half)), hn::Mul(t, half));
+            const auto tie = hn::IfThenElse(odd, hn::Add(tieIfOdd, tieAlways), tieAlways);
+            const auto up =
+                hn::IfThenElse(hn::Gt(frac, half), aboveHalf, hn::IfThenElseZero(hn::Eq(frac, half), tie));
+            q = hn::Add(t, hn::CopySign(up, x));
+        }
+        const auto out = toT(q);
+        if constexpr (Alpha) {
+            const int phase = i & 3;
+            const auto keepT = hn::Ne(hn::And(hn::Iota(dtu, phase), hn::Set(dtu, 3)), hn::Set(dtu, 3));
+            const auto keepF =
+                hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
+            hn::BlendedStore(out, hn::RebindMask(dt, keepT), dt, dst + i);
+            zero = hn::And(zero, keepF);
+        } else {
+            hn::StoreU(out, dt, dst + i);
+        }
+        zeroLanes = hn::Sub(zeroLanes, hn::VecFromMask(ds, hn::RebindMask(ds, zero)));
+    }
+    std::int64_t zeros = hn::GetLane(hn::SumOfLanes(ds, zeroLanes));
+    for (; i < end; ++i)
+        if (!Alpha || (i & 3) != 3) dst[i] = div::divideReal(divisor[i], dividend[i], scale, mode, zeros);
+    return zeros;
+}
+
+// IEEE single-precision division; zero divisors (either sign) are counted.
+// With `stream` (large images) the stores bypass the caches once the
+// destination is vector-aligned.
+template <bool Alpha>
+std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst, int begin, int count,
+                            int /*mode*/, int /*scale*/, bool stream) {
+    const hn::ScalableTag<float> df;
+    const hn::RebindToSigned<decltype(df)> di;
+    const int lanes = static_cast<int>(hn::Lanes(df));
+    std::int64_t zeros = 0;
+    const auto one = [&](int i) {
+        if (Alpha && (i & 3) == 3) return;
+        zeros += divisor[i] == 0.0f;
+        dst[i] = dividend[i] / divisor[i];
+    };
+    int i = begin;
+    const int end = begin + count;
+    const auto misaligned = [&] {
+        return reinterpret_cast<std::uintptr_t>(dst + i) % (lanes * sizeof(float)) != 0;
+    };
+    stream = stream && !Alpha;
+    if (stream) {
+        while (i < end && i < begin + lanes && misaligned()) one(i++);
+        stream = !misaligned();
+    }
+    // Lanes are a multiple of 4, so the alpha lanes sit at the same place in every vector.
+    const auto keep =
+        hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(di, i & 3), hn::Set(di, 3)), hn::Set(di, 3)));
+    auto zeroLanes = hn::Zero(di);  // zero divisors per lane (a true mask is -1)
+    for (; i + lanes <= end; i += lanes) {
+        const auto a = hn::LoadU(df, divisor + i);
+        const auto q = hn::Div(hn::LoadU(df, dividend + i), a);
+        auto zero = hn::Eq(a, hn::Zero(df));
+        if constexpr (Alpha) {
+            hn::BlendedStore(q, keep, df, dst + i);
+            zero = hn::And(zero, keep);
+        } else if (stream) {
+            hn::Stream(q, df, dst + i);
+        } else {
+            hn::StoreU(q, df, dst + i);
+        }
+        zeroLanes = hn::Sub(zeroLanes, hn::VecFromMask(di, hn::RebindMask(di, zero)));
+    }
+    if (stream) hwy::FlushStream();
+    zeros += hn::GetLane(hn::SumOfLanes(di, zeroLanes));
+    for (; i < end; ++i) one(i);
+    return zeros;
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+
+#include "arith/div_engine.h"
+#include "core/image.h"
+#include "core/parallel.h"
+#include "core/simd.h"
+
+namespace zel::div {
+namespace {
+
+// Complex rows stay scalar: their 128-bit intermediates have no vector form.
+template <class T, bool Alpha>
+std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
+                              int scale, bool /*stream*/) {
+    std::int64_t warnings = 0;
+    for (int i = begin; i < begin + count; ++i) {
+        if (Alpha && (i & 3) == 3) continue;
+        if constexpr (std::is_same_v<T, Zel32fc>)
+            dst[i] = divideComplex(divisor[i], dividend[i], warnings);
+        else
+            dst[i] = divideComplex(divisor[i], dividend[i], scale, mode, warnings);
+    }
+    return warnings;
+}
+
+// Rows at least this long (in elements) are split between two threads: a
+// division costs more per element than the fork, the more so for complex
+// elements. 16u and 32fc follow their closest relatives (16s, 16sc).
+template <class T>
+constexpr int splitThreshold() {
+    if constexpr (std::is_same_v<T, Zel32f>) return 4096;
+    if constexpr (std::is_same_v<T, Zel16sc> || std::is_same_v<T, Zel32sc>) return 256;
+    return 1024;
+}
+
+// Results larger than this many bytes are stored past the caches (where a
+// kernel can), like large fills: they would only evict the operands.
+constexpr std::int64_t kStreamBytes = 4194304;
+
+template <class T, bool Alpha>
+auto rowKernel() {
+    if constexpr (std::is_same_v<T, Zel32f>)
+        return ZEL_DISPATCH(DivideFloatRow<Alpha>);
+    else if constexpr (std::is_integral_v<T>)
+        return ZEL_DISPATCH(DivideIntRow<T, Alpha>);
+    else
+        return &divideComplexRow<T, Alpha>;
+}
+
+}  // namespace
+
+template <class T, Layout L>
+std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep, T* dst,
+                         int dstStep, ZeliSize roi, int mode, int scale) {
+    constexpr int C = kChannels<L>;
+    ZeliSize work =
+        collapseRows(roi, std::int64_t{roi.width} * C * sizeof(T), {divisorStep, dividendStep, dstStep});
+    if (std::int64_t{work.width} * C > INT32_MAX) work = roi;
+    const int length = work.width * C;
+    const auto row = rowKernel<T, L == Layout::AC4>();
+    const int s = bandScale<T>(scale);
+    const bool stream = std::int64_t{roi.width} * roi.height * C * sizeof(T) > kStreamBytes;
+    std::int64_t warnings = 0;
+    for (int y = 0; y < work.height; ++y) {
+        const T* a = rowAt(divisor, divisorStep, y);
+        const T* b = rowAt(dividend, dividendStep, y);
+        T* out = rowAt(dst, dstStep, y);
+        warnings += splitVector(length, splitThreshold<T>(), [&](int begin, int count) {
+            return row(a, b, out, begin, count, mode, s, stream);
+        });
+    }
+    return warnings;
+}
+
+#define ZEL_DIVIDE_IMAGE(T, L)                                                                            \
+    template std::int64_t divideImage<T, Layout::L>(const T*, int, const T*, int, T*, int, ZeliSize, int, \
+                                                    int);
+#define ZEL_DIVIDE_IMAGE_3(T) ZEL_DIVIDE_IMAGE(T, C1) ZEL_DIVIDE_IMAGE(T, C3) ZEL_DIVIDE_IMAGE(T, AC4)
+#define ZEL_DIVIDE_IMAGE_4(T) ZEL_DIVIDE_IMAGE_3(T) ZEL_DIVIDE_IMAGE(T, C4)
+
+ZEL_DIVIDE_IMAGE_4(Zel8u)
+ZEL_DIVIDE_IMAGE_4(Zel16u)
+ZEL_DIVIDE_IMAGE_4(Zel16s)
+ZEL_DIVIDE_IMAGE_4(Zel32f)
+ZEL_DIVIDE_IMAGE_3(Zel16sc)
+ZEL_DIVIDE_IMAGE_3(Zel32sc)
+ZEL_DIVIDE_IMAGE_3(Zel32fc)
+
+}  // namespace zel::div
+
+#endif  // HWY_ONCE
