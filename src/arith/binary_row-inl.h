@@ -8,9 +8,11 @@
 // patterns are laid out for `period` consecutive vectors, so every vector
 // starts at a known place in the pixel.
 //
-// Integer elements are widened to 32-bit lanes, combined exactly, scaled by
-// the band's rule and narrowed back with saturation; 32f is computed in its
-// own lanes. The last partial vector goes through a small buffer so it runs
+// Integer elements are widened to lanes that hold the exact result (16-bit
+// for 8-bit elements, 32-bit for 16-bit ones), combined, scaled by the
+// band's rule and narrowed back with saturation; saturating sums and
+// differences stay in the element's lanes, and 32f and 32fc are computed in
+// their own. The last partial vector goes through a small buffer so it runs
 // the very same code as the rest of the row.
 #if defined(ZEL_ARITH_BINARY_ROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef ZEL_ARITH_BINARY_ROW_INL_H_
