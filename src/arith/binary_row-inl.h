@@ -1,0 +1,241 @@
+// Per-target row kernel of the two-operand arithmetic (included by each
+// family file inside its Highway target loop).
+//
+// A row is a run of n elements. The second operand q is either another row
+// or, for the constant forms, a pattern of `period` channel values repeated
+// across the row; `keep` marks (with all bits set) the channels whose
+// destination element must stay as it is, the alpha of AC4 layouts. Both
+// patterns are laid out for `period` consecutive vectors, so every vector
+// starts at a known place in the pixel.
+//
+// Integer elements are widened to lanes that hold the exact result (16-bit
+// for 8-bit elements, 32-bit for 16-bit ones), combined, scaled by the
+// band's rule and narrowed back with saturation; saturating sums and
+// differences stay in the element's lanes, and 32f and 32fc are computed in
+// their own. The last partial vector goes through a small buffer so it runs
+// the very same code as the rest of the row.
+#if defined(ZEL_ARITH_BINARY_ROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef ZEL_ARITH_BINARY_ROW_INL_H_
+#undef ZEL_ARITH_BINARY_ROW_INL_H_
+#else
+#define ZEL_ARITH_BINARY_ROW_INL_H_
+#endif
+
+#include <hwy/highway.h>
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "arith/scale.h"
+#include "core/pixel.h"
+#include "core/store_under_mask-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Lane type in which an operation on T is carried out exactly. Sums and
+// differences of 8-bit values fit 16-bit signed lanes and their products
+// 16-bit unsigned lanes; the 16-bit types need 32-bit lanes, unsigned for
+// the unsigned products. Saturating sums and differences (s = 0) and the
+// halved 8-bit and 16-bit unsigned sums (s = 1) stay in the element's own
+// lanes.
+template <class Op, class T, arith::Band B>
+inline constexpr bool kNativeLanes =
+    std::is_integral_v<T> && !std::is_same_v<T, std::int32_t> &&
+    ((B == arith::Band::Plain && (std::is_same_v<Op, arith::AddOp> || std::is_same_v<Op, arith::SubOp>)) ||
+     (B == arith::Band::One && std::is_same_v<Op, arith::AddOp> && std::is_unsigned_v<T>));
+
+template <class Op>
+inline constexpr bool kIsProduct = std::is_same_v<Op, arith::MulOp> || std::is_same_v<Op, arith::MulScaleOp>;
+
+template <class Op, class T, arith::Band B>
+using WideLane = std::conditional_t<
+    std::is_floating_point_v<T> || kNativeLanes<Op, T, B>, T,
+    std::conditional_t<sizeof(T) == 1, std::conditional_t<kIsProduct<Op>, std::uint16_t, std::int16_t>,
+                       std::conditional_t<std::is_same_v<T, std::uint16_t> && kIsProduct<Op>,
+                                          std::uint32_t, std::int32_t>>>;
+
+// Saturating sum or difference, or the sum halved with ties to even, in the
+// element's own lanes.
+template <class Op, arith::Band B, class D, class V>
+HWY_INLINE V NativeStep(D d, V p, V q) {
+    if constexpr (B == arith::Band::One) {
+        // The rounded-up average is one too high exactly when the sum is
+        // odd and that average is odd.
+        const V up = hn::AverageRound(p, q);
+        return hn::Sub(up, hn::And(hn::And(hn::Xor(p, q), up), hn::Set(d, 1)));
+    } else if constexpr (std::is_same_v<Op, arith::AddOp>) {
+        return hn::SaturatedAdd(p, q);
+    } else {
+        return hn::SaturatedSub(p, q);
+    }
+}
+
+template <class DW, class V>
+HWY_INLINE auto Widen(DW dw, V v) {
+    if constexpr (std::is_same_v<hn::TFromD<DW>, hn::TFromV<V>>) {
+        return v;
+    } else {
+        return hn::PromoteTo(dw, v);
+    }
+}
+
+// Back to the element type with saturation. The value is clamped to the
+// type's range first, so the demotion itself never has to saturate (not
+// every target's demotion saturates unsigned 8-bit results correctly).
+template <class DN, class DW, class V>
+HWY_INLINE auto Narrow(DN dn, DW dw, V v) {
+    using T = hn::TFromD<DN>;
+    using W = hn::TFromD<DW>;
+    if constexpr (std::is_same_v<T, W>) {
+        return v;
+    } else {
+        const hn::RebindToSigned<DW> di;
+        if constexpr (std::is_signed_v<W>) v = hn::Max(v, hn::Set(dw, W(std::numeric_limits<T>::min())));
+        v = hn::Min(v, hn::Set(dw, W(std::numeric_limits<T>::max())));
+        return hn::DemoteTo(dn, hn::BitCast(di, v));
+    }
+}
+
+// The exact combination of two widened operands.
+template <class Op, class T, class DW, class V>
+HWY_INLINE V Combine(DW dw, V p, V q) {
+    if constexpr (std::is_same_v<Op, arith::AddOp>) {
+        return hn::Add(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::SubOp>) {
+        return hn::Sub(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::MulOp>) {
+        return hn::Mul(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::ComplexMulOp>) {
+        // Lanes hold (re, im) pairs. With q's real part in both lanes of a
+        // pair and then its imaginary part, and p's parts swapped:
+        // even lanes re = p.re q.re - p.im q.im, odd lanes im = p.im q.re + p.re q.im,
+        // each product rounded on its own as in the scalar formula.
+        const V byReal = hn::Mul(p, hn::DupEven(q));
+        const V byImag = hn::Mul(hn::Shuffle2301(p), hn::DupOdd(q));
+        // For 16sc the imaginary sum wraps only at 2^31, to the lowest 32-bit
+        // value, which no true product reaches; the kernel replaces it.
+        (void)dw;
+        return hn::OddEven(hn::Add(byReal, byImag), hn::Sub(byReal, byImag));
+    } else {
+        constexpr int kBits = int(sizeof(T) * 8);
+        const V product = hn::Mul(p, q);
+        const V rounded = hn::Add(hn::Add(product, hn::Set(dw, 1)), hn::ShiftRight<kBits>(product));
+        return hn::ShiftRight<kBits>(rounded);
+    }
+}
+
+// v * 2^-s in the band's form; saturation happens when narrowing.
+template <arith::Band B, class DW, class V>
+HWY_INLINE V ScaleStep(DW dw, V v, const arith::ScaleArgs& a) {
+    using W = hn::TFromD<DW>;
+    using arith::Band;
+    const V one = hn::Set(dw, W(1));
+    if constexpr (B == Band::One) {
+        // (v + ((v >> 1) & 1)) >> 1
+        return hn::ShiftRight<1>(hn::Add(v, hn::And(hn::ShiftRight<1>(v), one)));
+    } else if constexpr (B == Band::Pos) {
+        // Round half to even without an overflowing addition: h keeps the
+        // half bit as its lowest bit, `sticky` says whether anything below
+        // it is set; round up when above one half, or at one half with an
+        // odd quotient.
+        const V h = hn::ShiftRightSame(v, a.shift - 1);
+        const V quotient = hn::ShiftRight<1>(h);
+        const V below = hn::And(v, hn::Set(dw, W((W(1) << (a.shift - 1)) - 1)));
+        const V sticky = hn::IfThenElseZero(hn::Ne(below, hn::Zero(dw)), one);
+        const V up = hn::And(hn::And(h, one), hn::Or(sticky, hn::And(quotient, one)));
+        return hn::Add(quotient, up);
+    } else if constexpr (B == Band::Neg || B == Band::Bound) {
+        // Values outside [lo >> n, hi >> n] saturate; clamping them one step
+        // further out keeps the shift from wrapping and still saturates.
+        if constexpr (std::is_signed_v<W>) v = hn::Max(v, hn::Set(dw, W(a.keepLo - 1)));
+        v = hn::Min(v, hn::Set(dw, W(a.keepHi + 1)));
+        return hn::ShiftLeftSame(v, a.shift);
+    } else {
+        (void)dw;
+        (void)a;
+        (void)one;
+        return v;
+    }
+}
+
+template <class Op, class T, arith::Band B>
+void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
+               const BitsOf<T>* keep, const arith::ScaleArgs& args) {
+    using W = WideLane<Op, T, B>;
+    // Rows that only load, add and store run at the memory's pace, which
+    // 256-bit vectors reach with less cost than 512-bit ones; the widened
+    // integer work gains from the widest vectors.
+    constexpr bool kMemoryBound = kNativeLanes<Op, T, B> || std::is_floating_point_v<T>;
+    using DW = std::conditional_t<kMemoryBound, hn::CappedTag<W, 32 / sizeof(W)>, hn::ScalableTag<W>>;
+    const DW dw;
+    const hn::Rebind<T, decltype(dw)> dn;
+    const hn::RebindToUnsigned<decltype(dn)> du;
+    const int lanes = static_cast<int>(hn::Lanes(dw));
+
+    // One vector of results from the vectors at pv and qv.
+    auto compute = [&](const T* pv, const T* qv) HWY_ATTR {
+        if constexpr (kNativeLanes<Op, T, B>) {
+            return NativeStep<Op, B>(dn, hn::LoadU(dn, pv), hn::LoadU(dn, qv));
+        } else if constexpr (B == arith::Band::Zero) {
+            (void)pv;
+            (void)qv;
+            return hn::Zero(dn);
+        } else {
+            const auto v = Combine<Op, T>(dw, Widen(dw, hn::LoadU(dn, pv)), Widen(dw, hn::LoadU(dn, qv)));
+            auto scaled = ScaleStep<B>(dw, v, args);
+            if constexpr (std::is_same_v<Op, arith::ComplexMulOp> && std::is_integral_v<T>) {
+                const auto wrapped = hn::Eq(v, hn::Set(dw, std::numeric_limits<W>::min()));
+                scaled = hn::IfThenElse(wrapped, hn::Set(dw, W(args.imagTop)), scaled);
+            }
+            return Narrow(dn, dw, scaled);
+        }
+    };
+    // Vector j of the pattern, stored at out.
+    auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
+        const auto r = compute(pv, qv);
+        if (keep != nullptr) {
+            const auto written = hn::Not(hn::MaskFromVec(hn::LoadU(du, keep + j * lanes)));
+            StoreUnderMask(hn::BitCast(du, r), written, du, reinterpret_cast<BitsOf<T>*>(out));
+        } else {
+            hn::StoreU(r, dn, out);
+        }
+    };
+
+    int x = 0;
+    int j = 0;  // vector index within the pattern
+    if (!qPattern && keep == nullptr) {
+        for (; x + 2 * lanes <= n; x += 2 * lanes) {
+            const auto r0 = compute(p + x, q + x);
+            const auto r1 = compute(p + x + lanes, q + x + lanes);
+            hn::StoreU(r0, dn, dst + x);
+            hn::StoreU(r1, dn, dst + x + lanes);
+        }
+        j = (x / lanes) % period;
+    }
+    for (; x + lanes <= n; x += lanes) {
+        vectorStep(p + x, qPattern ? q + j * lanes : q + x, dst + x, j);
+        if (++j == period) j = 0;
+    }
+    if (x < n) {
+        const int rest = n - x;
+        HWY_ALIGN T tailP[hn::MaxLanes(dw)] = {};
+        HWY_ALIGN T tailQ[hn::MaxLanes(dw)] = {};
+        HWY_ALIGN T tailDst[hn::MaxLanes(dw)] = {};
+        std::memcpy(tailP, p + x, rest * sizeof(T));
+        std::memcpy(tailQ, qPattern ? q + j * lanes : q + x, (qPattern ? lanes : rest) * sizeof(T));
+        std::memcpy(tailDst, dst + x, rest * sizeof(T));
+        vectorStep(tailP, tailQ, tailDst, j);
+        std::memcpy(dst + x, tailDst, rest * sizeof(T));
+    }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#endif  // ZEL_ARITH_BINARY_ROW_INL_H_
