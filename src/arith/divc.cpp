@@ -6,62 +6,13 @@
 // gives with a divisor image holding the constant, and never warn: the
 // constant is not zero, and the 16sc top-band pairing of divisor real part
 // and dividend imaginary part does not raise a warning here either. The
-// 32f members multiply by the single-precision reciprocal 1 / c instead of
-// dividing, as a MulC with that reciprocal would: x * (1 / c), which may
-// differ from x / c in the last bit.
-#undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "arith/divc.cpp"
-#include <hwy/foreach_target.h>  // IWYU pragma: keep
-#include <hwy/highway.h>
-
-HWY_BEFORE_NAMESPACE();
-namespace zel {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
-
-// pixels x C floats times factor[c] per channel; the first `Written`
-// channels are stored, the others keep their contents. C vectors hold
-// `lanes` whole pixels, so every vector sees the same channel pattern.
-template <int C, int Written>
-void MulConstRow(const float* src, float* dst, int pixels, const float* factor) {
-    const hn::ScalableTag<float> d;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    HWY_ALIGN float pattern[C * hn::MaxLanes(d)];
-    HWY_ALIGN float written[C * hn::MaxLanes(d)];
-    for (int i = 0; i < C * lanes; ++i) {
-        pattern[i] = factor[i % C];
-        written[i] = i % C < Written ? 1.0f : 0.0f;
-    }
-    int x = 0;
-    for (; x + lanes <= pixels; x += lanes) {
-        for (int v = 0; v < C; ++v) {
-            const int at = x * C + v * lanes;
-            const auto product = hn::Mul(hn::LoadU(d, src + at), hn::Load(d, pattern + v * lanes));
-            if constexpr (Written < C) {
-                const auto keep = hn::Ne(hn::Load(d, written + v * lanes), hn::Zero(d));
-                hn::BlendedStore(product, keep, d, dst + at);
-            } else {
-                hn::StoreU(product, d, dst + at);
-            }
-        }
-    }
-    for (; x < pixels; ++x)
-        for (int c = 0; c < Written; ++c) dst[x * C + c] = src[x * C + c] * factor[c];
-}
-
-}  // namespace HWY_NAMESPACE
-}  // namespace zel
-HWY_AFTER_NAMESPACE();
-
-#if HWY_ONCE
-
+// 32f members are MulC with the single-precision reciprocal 1 / c: the
+// results are x * (1 / c), which may differ from x / c in the last bit.
 #include <type_traits>
 
 #include "arith/div_engine.h"
 #include "core/image.h"
 #include "core/memory.h"
-#include "core/parallel.h"
-#include "core/simd.h"
 
 namespace zel::div {
 namespace {
@@ -74,24 +25,27 @@ bool isZero(const T& v) {
         return v.re == 0 && v.im == 0;
 }
 
-// x * (1 / c) per channel. Like the 32f constant multiplications, the
-// C1, C3 and in-place AC4 members divide the rows among threads once
-// width + height reaches 256.
-template <Layout L>
-void multiplyByReciprocal(const float* src, int srcStep, const float* value, float* dst, int dstStep,
-                          ZeliSize roi) {
-    constexpr int C = kChannels<L>;
-    float reciprocal[C] = {};
-    for (int c = 0; c < kComputed<L>; ++c) reciprocal[c] = 1.0f / value[c];
-    const bool rowSplit = L == Layout::C1 || L == Layout::C3 || (L == Layout::AC4 && src == dst);
-    const bool fork = rowSplit && roi.width + roi.height >= 256;
-    const ZeliSize rows = collapseRows(roi, std::int64_t{roi.width} * C * sizeof(float), {srcStep, dstStep});
-    const auto row = ZEL_DISPATCH(MulConstRow<C, kComputed<L>>);
-    forEachRow(rows.height, fork,
-               [&](int y) { row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rows.width, reciprocal); });
+// x * (1 / c) per channel, through the MulC member of the same layout.
+template <Layout L, bool InPlace>
+ZelStatus multiplyByReciprocal(const Zel32f* src, int srcStep, const Zel32f* value, Zel32f* dst,
+                               int dstStep, ZeliSize roi) {
+    Zel32f r[kChannels<L>] = {};
+    for (int c = 0; c < kComputed<L>; ++c) r[c] = 1.0f / value[c];
+    if constexpr (L == Layout::C1)
+        return InPlace ? zeliMulC_32f_C1IR(r[0], dst, dstStep, roi)
+                       : zeliMulC_32f_C1R(src, srcStep, r[0], dst, dstStep, roi);
+    else if constexpr (L == Layout::C3)
+        return InPlace ? zeliMulC_32f_C3IR(r, dst, dstStep, roi)
+                       : zeliMulC_32f_C3R(src, srcStep, r, dst, dstStep, roi);
+    else if constexpr (L == Layout::C4)
+        return InPlace ? zeliMulC_32f_C4IR(r, dst, dstStep, roi)
+                       : zeliMulC_32f_C4R(src, srcStep, r, dst, dstStep, roi);
+    else
+        return InPlace ? zeliMulC_32f_AC4IR(r, dst, dstStep, roi)
+                       : zeliMulC_32f_AC4R(src, srcStep, r, dst, dstStep, roi);
 }
 
-template <class T, Layout L>
+template <class T, Layout L, bool InPlace>
 ZelStatus divideByConstant(const T* src, int srcStep, const T* value, T* dst, int dstStep, ZeliSize roi,
                            int scale) {
     constexpr int C = kChannels<L>;
@@ -104,7 +58,7 @@ ZelStatus divideByConstant(const T* src, int srcStep, const T* value, T* dst, in
                            .that(!zeroConstant, zelStatusDivByZero))
         return st;
     if constexpr (std::is_same_v<T, Zel32f>) {
-        multiplyByReciprocal<L>(src, srcStep, value, dst, dstStep, roi);
+        return multiplyByReciprocal<L, InPlace>(src, srcStep, value, dst, dstStep, roi);
     } else {
         // One divisor row holding the constant serves every row (step 0).
         const std::size_t length = std::size_t(roi.width) * C;
@@ -124,13 +78,13 @@ ZelStatus divideByConstant(const T* src, int srcStep, const T* value, T* dst, in
 #define ZELI_DIVC_FORMS(t, layout, valueParam, valuePtr, sfsName, sfsParam, sfsArg)                          \
     ZelStatus zeliDivC_##t##_##layout##R##sfsName(const Zel##t* pSrc, int srcStep, valueParam, Zel##t* pDst, \
                                                   int dstStep, ZeliSize roi sfsParam) {                      \
-        return zel::div::divideByConstant<Zel##t, zel::Layout::layout>(pSrc, srcStep, valuePtr, pDst,        \
-                                                                       dstStep, roi, sfsArg);                \
+        return zel::div::divideByConstant<Zel##t, zel::Layout::layout, false>(pSrc, srcStep, valuePtr, pDst, \
+                                                                              dstStep, roi, sfsArg);         \
     }                                                                                                        \
     ZelStatus zeliDivC_##t##_##layout##IR##sfsName(valueParam, Zel##t* pSrcDst, int srcDstStep,              \
                                                    ZeliSize roi sfsParam) {                                  \
-        return zel::div::divideByConstant<Zel##t, zel::Layout::layout>(pSrcDst, srcDstStep, valuePtr,        \
-                                                                       pSrcDst, srcDstStep, roi, sfsArg);    \
+        return zel::div::divideByConstant<Zel##t, zel::Layout::layout, true>(pSrcDst, srcDstStep, valuePtr,  \
+                                                                             pSrcDst, srcDstStep, roi, sfsArg); \
     }
 #define ZELI_COMMA ,
 #define ZELI_DIVC_SFS_C1(t) \
@@ -156,4 +110,3 @@ ZELI_DIVC_FLOAT_C1(32fc)
 ZELI_DIVC_FLOAT(32fc, C3)
 ZELI_DIVC_FLOAT(32fc, AC4)
 
-#endif  // HWY_ONCE
