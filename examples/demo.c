@@ -29,7 +29,7 @@ static double nowMs(void) {
     do {                                                                                \
         double started_ = nowMs();                                                      \
         ZelStatus status_ = (call);                                                     \
-        printf("  %-44s %7.3f ms  status %d\n", description, nowMs() - started_, status_); \
+        printf("  %-52s %7.3f ms  status %d\n", description, nowMs() - started_, status_); \
         if (status_ < 0) exit(1);                                                       \
     } while (0)
 
@@ -65,6 +65,17 @@ static void drawTestPicture(Zel8u* rgb, int step, ZeliSize size) {
             row[3 * x + 2] = (Zel8u)b;
         }
     }
+}
+
+/* Grey levels falling from 255 at the centre to 0 in the corners. */
+static void drawVignette(Zel8u* rgb, int step, ZeliSize size) {
+    const double radius = hypot(size.width / 2.0, size.height / 2.0);
+    for (int y = 0; y < size.height; ++y)
+        for (int x = 0; x < size.width; ++x) {
+            double d = hypot(x - size.width / 2.0, y - size.height / 2.0) / radius;
+            Zel8u level = (Zel8u)(255 * (1 - d * d));
+            for (int c = 0; c < 3; ++c) rgb[(long)y * step + 3 * x + c] = level;
+        }
 }
 
 int main(int argc, char** argv) {
@@ -115,6 +126,33 @@ int main(int argc, char** argv) {
          zeliTranspose_8u_C3R(rgb, rgbStep, turned, turnedStep, size));
     save("transposed.png", turned, turnedStep, (ZeliSize){size.height, size.width}, 3);
 
+    /* Arithmetic: the average of the picture and its channel swap (sum
+       halved, ties to even), their difference doubled (saturating at 0
+       and 255), and a vignette multiplied in as a fraction of 255. */
+    int averageStep = 0, differenceStep = 0, vignetteStep = 0, shadedStep = 0;
+    Zel8u* average = zeliMalloc_8u_C3(size.width, size.height, &averageStep);
+    Zel8u* difference = zeliMalloc_8u_C3(size.width, size.height, &differenceStep);
+    Zel8u* vignette = zeliMalloc_8u_C3(size.width, size.height, &vignetteStep);
+    Zel8u* shaded = zeliMalloc_8u_C3(size.width, size.height, &shadedStep);
+    if (!average || !difference || !vignette || !shaded) return 1;
+    STEP("Add_8u_C3RSfs: (picture + swap) / 2",
+         zeliAdd_8u_C3RSfs(rgb, rgbStep, swapped, swappedStep, average, averageStep, size, 1));
+    save("average.png", average, averageStep, size, 3);
+    STEP("Sub_8u_C3RSfs: (picture - swap) * 2",
+         zeliSub_8u_C3RSfs(swapped, swappedStep, rgb, rgbStep, difference, differenceStep, size, -1));
+    save("difference.png", difference, differenceStep, size, 3);
+    drawVignette(vignette, vignetteStep, size);
+    STEP("MulScale_8u_C3R: picture * vignette / 255",
+         zeliMulScale_8u_C3R(rgb, rgbStep, vignette, vignetteStep, shaded, shadedStep, size));
+    save("vignette.png", shaded, shadedStep, size, 3);
+    const Zel8u quarter[3] = {4, 4, 4};
+    STEP("DivC_8u_C3IRSfs: in place, / 4 then * 2", zeliDivC_8u_C3IRSfs(quarter, shaded, shadedStep, size, -1));
+    save("vignette_dark.png", shaded, shadedStep, size, 3);
+
+    zeliFree(shaded);
+    zeliFree(vignette);
+    zeliFree(difference);
+    zeliFree(average);
     zeliFree(turned);
     zeliFree(swapped);
     zeliFree(framed);
