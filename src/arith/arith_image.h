@@ -178,19 +178,16 @@ ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int d
 
     const RowKernel<B> row = rowKernel<Op, T>(band);
     const ScaleArgs args = scaleArgs<Op, T>(scale);
-    const bool fork = forksRows<Op, T, L, F>(roi) && ownGetNumThreads() > 1;
     const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
-    // Contiguous rows run as one, unless the rows are split among threads
-    // (which gives the same results) or the one row's element count would
-    // not fit the kernel's counter.
-    ZeliSize rows = roi;
-    if (!fork && std::int64_t{roi.width} * roi.height * kPeriod <= INT_MAX)
-        rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
-                       : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
-    const int n = rows.width * kPeriod;
+    const Rows rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
+                              : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
+    const std::ptrdiff_t n = rows.width * kPeriod;
+    const int team = forksRows<Op, T, L, F>(roi)
+                         ? teamSize(rowBytes * roi.height * (isConst ? 2 : 3), kCostMove, rows.height)
+                         : 1;
     const B* pBase = reinterpret_cast<const B*>(p);
     B* dBase = reinterpret_cast<B*>(dst);
-    forEachRow(rows.height, fork, [&](int y) {
+    forEachRow(rows.height, team, [&](std::ptrdiff_t y) {
         row(rowAt(pBase, pStep, y), isConst ? qBase : rowAt(qBase, qStep, y), isConst,
             rowAt(dBase, dstStep, y), n, kPeriod, keep, args);
     });

@@ -21,6 +21,7 @@
 #include <hwy/cache_control.h>
 
 #include <algorithm>
+#include <atomic>
 #include <climits>
 #include <cmath>
 #include <cstdint>
@@ -222,23 +223,23 @@ template <class T, Layout L>
 std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep, T* dst,
                          int dstStep, ZeliSize roi, int mode, int scale) {
     constexpr int C = kChannels<L>;
-    ZeliSize work =
+    const Rows work =
         collapseRows(roi, std::int64_t{roi.width} * C * sizeof(T), {divisorStep, dividendStep, dstStep});
-    if (std::int64_t{work.width} * C > INT32_MAX) work = roi;
-    const int length = work.width * C;
+    const std::ptrdiff_t length = work.width * C;
     const auto row = rowKernel<T, L == Layout::AC4>();
     const int s = bandScale<T>(scale);
     const bool stream = std::int64_t{roi.width} * roi.height * C * sizeof(T) > kStreamBytes;
-    std::int64_t warnings = 0;
-    for (int y = 0; y < work.height; ++y) {
+    const int team = teamSize(std::int64_t{roi.width} * roi.height * C * sizeof(T) * 3, kCostDivide,
+                              pieceCount(work.height, length, 64));
+    std::atomic<std::int64_t> warnings{0};
+    forEachPiece(work.height, length, 64, team, [&](std::ptrdiff_t y, std::ptrdiff_t begin, std::ptrdiff_t end) {
         const T* a = rowAt(divisor, divisorStep, y);
         const T* b = rowAt(dividend, dividendStep, y);
         T* out = rowAt(dst, dstStep, y);
-        warnings += splitVector(length, splitThreshold<T>(), [&](int begin, int count) {
-            return row(a, b, out, begin, count, mode, s, stream);
-        });
-    }
-    return warnings;
+        const std::int64_t met = row(a, b, out, begin, end - begin, mode, s, stream);
+        if (met != 0) warnings += met;
+    });
+    return warnings.load();
 }
 
 #define ZEL_DIVIDE_IMAGE(T, L)                                                                            \

@@ -1,6 +1,13 @@
-// Control of the SSE unit's rounding field (MXCSR), for kernels whose
-// results depend on how the vector unit rounds. Callers save the control
-// word, set the rounding they need and restore the word before returning.
+// Control of the SSE unit's control and status word (MXCSR).
+//
+// Results never depend on the caller's floating-point environment: a
+// family whose kernels compute in floating point (or round through the
+// vector unit) runs its call under StandardFpEnvironment, which sets
+// round-to-nearest, no flush-to-zero, no denormals-are-zero and every
+// exception masked, and gives the caller's word back at the end (with the
+// exception flags the call raised added to it). The threading frame hands
+// the calling thread's word to every thread of a team, so the workers
+// compute under the same environment.
 #pragma once
 
 #include <cstdint>
@@ -15,6 +22,11 @@ enum SseRounding : std::uint32_t {
     kSseRoundTowardZero = 3,
 };
 
+// The power-on word: round to nearest, all exceptions masked, no FTZ/DAZ.
+constexpr std::uint32_t kStandardControlWord = 0x1F80;
+// The sticky exception flags (bits 0-5).
+constexpr std::uint32_t kExceptionFlags = 0x3F;
+
 }  // namespace zel
 
 // Sets the rounding field to `rc` (0..3) and returns the previous control word.
@@ -26,6 +38,31 @@ std::uint32_t ps_get_ssx();
 void ps_set_ssx(std::uint32_t cw);
 
 namespace zel {
+
+// Sets a whole control word for the lifetime of the scope; on exit the
+// previous word comes back, keeping the exception flags raised meanwhile.
+class ScopedControlWord {
+public:
+    explicit ScopedControlWord(std::uint32_t cw) : saved_(ps_get_ssx()) {
+        if (saved_ != cw) ps_set_ssx(cw);
+    }
+    ~ScopedControlWord() {
+        const std::uint32_t now = ps_get_ssx();
+        const std::uint32_t restored = saved_ | (now & kExceptionFlags);
+        if (now != restored) ps_set_ssx(restored);
+    }
+    ScopedControlWord(const ScopedControlWord&) = delete;
+    ScopedControlWord& operator=(const ScopedControlWord&) = delete;
+
+private:
+    std::uint32_t saved_;
+};
+
+// The environment every floating-point kernel computes under.
+class StandardFpEnvironment : public ScopedControlWord {
+public:
+    StandardFpEnvironment() : ScopedControlWord(kStandardControlWord) {}
+};
 
 // Sets a rounding mode for the lifetime of the scope.
 class ScopedSseRounding {

@@ -1,7 +1,10 @@
 // Addressing inside caller-owned images.
+//
+// Every count, offset and loop bound below is 64-bit: an image that
+// zeliMalloc can return (up to 2^31 - 1 bytes per row, 2^31 - 1 rows) has
+// far more than 2^31 elements, and the library processes it whole.
 #pragma once
 
-#include <climits>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -22,30 +25,35 @@ inline T* byteOffset(T* p, std::ptrdiff_t bytes) {
 // Address of row `y` of an image whose first row starts at `base`; steps
 // may be negative (rows walk upwards) and are counted in bytes.
 template <class T>
-inline T* rowAt(T* base, int step, int y) {
+inline T* rowAt(T* base, int step, std::ptrdiff_t y) {
     return byteOffset(base, static_cast<std::ptrdiff_t>(step) * y);
 }
 
+// The rows a call walks: `width` pixels in each of `height` rows. After
+// collapsing, one row may hold more than 2^31 pixels.
+struct Rows {
+    std::ptrdiff_t width;
+    std::ptrdiff_t height;
+};
+
+inline Rows rowsOf(ZeliSize roi) { return Rows{roi.width, roi.height}; }
+
 // Rows that follow one another without padding (every step equals the
-// row's byte length) are one long row: returns {width * height, 1} then,
-// and the ROI unchanged otherwise or when the product would not fit.
-inline ZeliSize collapseRows(ZeliSize roi, std::int64_t rowBytes, std::initializer_list<int> steps) {
-    if (roi.height == 1) return roi;
+// row's byte length) are one long row: {width * height, 1}; otherwise the
+// ROI's own rows.
+inline Rows collapseRows(ZeliSize roi, std::int64_t rowBytes, std::initializer_list<int> steps) {
     for (int step : steps)
-        if (step != rowBytes) return roi;
-    const std::int64_t pixels = std::int64_t{roi.width} * roi.height;
-    if (pixels > INT_MAX) return roi;
-    return ZeliSize{static_cast<int32_t>(pixels), 1};
+        if (step != rowBytes) return rowsOf(roi);
+    return Rows{std::ptrdiff_t{roi.width} * roi.height, 1};
 }
 
 // The same for operands whose rows differ in length (layout changes): every
 // operand's step must equal its own row length in bytes.
-inline ZeliSize collapseRows(ZeliSize roi,
-                             std::initializer_list<std::pair<int, std::int64_t>> stepAndRowBytes) {
+inline Rows collapseRows(ZeliSize roi,
+                         std::initializer_list<std::pair<int, std::int64_t>> stepAndRowBytes) {
     for (const auto& [step, rowBytes] : stepAndRowBytes)
-        if (step != rowBytes) return roi;
-    const std::int64_t pixels = std::int64_t{roi.width} * roi.height;
-    return pixels > INT_MAX ? roi : ZeliSize{static_cast<int32_t>(pixels), 1};
+        if (step != rowBytes) return rowsOf(roi);
+    return Rows{std::ptrdiff_t{roi.width} * roi.height, 1};
 }
 
 }  // namespace zel

@@ -1,19 +1,33 @@
-// The threading frame: how a call divides its work among threads.
+// The threading frame: when a call forks, and how it divides its work.
 //
-// Row split: the ROI's rows are handed out in contiguous blocks under the
-// static schedule; each row is computed by exactly one thread, so results
-// never depend on the team size. Vector split: a long one-dimensional kernel
-// is cut into at most two chunks. Reductions keep one slot per block of
-// rows of a fixed size and add the slots in order, so a floating-point sum
-// is the same whatever the thread count.
+// The fork rule. A call forks only when every thread of the team gets
+// enough work to pay for waking it: the bytes the call reads and writes,
+// weighted by what its kernel costs per byte (kCost*), must reach
+// kForkBytesPerThread per thread. The team is never larger than the
+// thread setting or than the pieces the work can be cut into; a team of
+// one runs on the calling thread without entering the OpenMP runtime. The
+// rule is measured, not tuned per family: a family states only its cost
+// weight (docs/architecture.md).
+//
+// Division of work. Rows go to the threads in contiguous blocks under the
+// static schedule; when there are fewer rows than threads (one long
+// collapsed row, say), each row is cut into pieces whose boundaries fall on
+// a multiple of the family's grain. Every element is computed by exactly
+// one thread with the same code, so results never depend on the team size.
+// Reductions keep one slot per block of a fixed number of rows and add the
+// slots in order. Every thread of a team computes under the calling
+// thread's floating-point control word (see fpcontrol.h).
 #pragma once
 
 #include <omp.h>
 
 #include <algorithm>
-#include <atomic>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <new>
 
+#include "core/fpcontrol.h"
 #include "core/memory.h"
 
 // Threads the library may use for one call (the zelSetNumThreads setting).
@@ -21,48 +35,102 @@ int ownGetNumThreads();
 
 namespace zel {
 
-// Calls body(y) for every row 0..height-1. With `fork` set and more than one
-// thread allowed, the rows are divided among a team by the static schedule;
-// otherwise they run in order on the calling thread.
-template <class Body>
-void forEachRow(int height, bool fork, Body&& body) {
-    const int threads = fork ? ownGetNumThreads() : 1;
-    if (threads > 1 && height > 1) {
-#pragma omp parallel for num_threads(threads) schedule(static)
-        for (int y = 0; y < height; ++y) body(y);
-    } else {
-        for (int y = 0; y < height; ++y) body(y);
+// The largest thread setting; larger requests are clamped to it.
+constexpr int kMaxThreads = 256;
+
+// Cost weights: time per byte touched, relative to a pass that only loads,
+// combines and stores (a copy, Add, Set). Measured on the kernels.
+enum ForkCost : int {
+    kCostMove = 1,         // copies, fills, sums, saturating arithmetic
+    kCostWiden = 2,        // widened integer arithmetic with scaling, products
+    kCostDivide = 6,       // 8-bit and 16-bit division in floating point
+    kCostComplexDivide = 24,  // complex division, scalar
+};
+
+// Weighted bytes each thread of a team must receive: about 100 us of a
+// single thread's work on a plain pass, well above the cost of waking a
+// sleeping team (5 to 10 us under OMP_WAIT_POLICY=passive).
+constexpr std::int64_t kForkBytesPerThread = std::int64_t{2} << 20;
+
+// Threads worth using for `bytes` bytes touched at `cost` weight, cut into
+// at most `pieces` pieces; 1 means run on the calling thread.
+inline int teamSize(std::int64_t bytes, int cost, std::int64_t pieces) {
+    const int allowed = ownGetNumThreads();
+    if (allowed <= 1 || pieces <= 1) return 1;
+    const std::int64_t perThread = kForkBytesPerThread / cost;
+    const std::int64_t byWork = bytes / std::max<std::int64_t>(perThread, 1);
+    const std::int64_t team = std::min<std::int64_t>({byWork, allowed, pieces});
+    return team < 2 ? 1 : static_cast<int>(team);
+}
+
+// Runs region(threadIndex) on a team of `team` threads, each under the
+// calling thread's control word.
+template <class Region>
+void runTeam(int team, Region&& region) {
+    const std::uint32_t cw = ps_get_ssx() & ~kExceptionFlags;
+#pragma omp parallel num_threads(team)
+    {
+        ScopedControlWord environment(cw);
+        region();
     }
 }
 
-// Vector split. kernel(begin, count) processes elements [begin, begin+count)
-// and returns how many special cases it met (zero divisors, say); the total
-// over all chunks is returned. Below `threshold` elements, with one thread
-// allowed, or with fewer elements than threads, the kernel runs once on the
-// calling thread. Otherwise a team of at most two threads is requested and
-// thread i takes chunk i; the last thread also takes the remainder.
-template <class Kernel>
-std::int64_t splitVector(int length, int threshold, Kernel&& kernel) {
-    const int threads = ownGetNumThreads();
-    if (length < threshold || threads <= 1 || length < threads) return kernel(0, length);
-    std::atomic<std::int64_t> specialCases{0};
-    int chunk = 0;
-    int remainder = 0;
-#pragma omp parallel num_threads(std::min(threads, 2))
-    {
-#pragma omp master
-        {
-            const int team = omp_get_num_threads();
-            chunk = length / team;
-            remainder = length % team;
-        }
-#pragma omp barrier
-        const int i = omp_get_thread_num();
-        const bool last = i == omp_get_num_threads() - 1;
-        const std::int64_t met = kernel(i * chunk, chunk + (last ? remainder : 0));
-        if (met != 0) specialCases += met;
+// Calls body(y) for every row 0..rows-1: in order on the calling thread
+// for a team of one, otherwise in contiguous blocks, one per thread.
+template <class Body>
+void forEachRow(std::ptrdiff_t rows, int team, Body&& body) {
+    if (team <= 1) {
+        for (std::ptrdiff_t y = 0; y < rows; ++y) body(y);
+        return;
     }
-    return specialCases.load();
+    runTeam(team, [&] {
+#pragma omp for schedule(static)
+        for (std::ptrdiff_t y = 0; y < rows; ++y) body(y);
+    });
+}
+
+// Pieces the work of `rows` rows of `width` elements can be cut into, for
+// teamSize.
+inline std::int64_t pieceCount(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain) {
+    const std::ptrdiff_t grains = (width + grain - 1) / grain;
+    return rows > kMaxThreads ? rows : rows * std::min<std::ptrdiff_t>(grains, kMaxThreads);
+}
+
+// Pieces a row of `width` elements is cut into for a team of `team`.
+inline std::ptrdiff_t piecesPerRow(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain,
+                                   int team) {
+    if (team <= 1 || rows >= team) return 1;
+    const std::ptrdiff_t grains = (width + grain - 1) / grain;
+    return std::max<std::ptrdiff_t>(1, std::min<std::ptrdiff_t>(team, grains));
+}
+
+// Calls body(y, begin, end) so that the calls cover elements [0, width) of
+// every row 0..rows-1 exactly once. With as many rows as threads the rows
+// are divided; with fewer, every row is cut into pieces that begin on a
+// multiple of `grain`.
+template <class Body>
+void forEachPiece(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain, int team,
+                  Body&& body) {
+    const std::ptrdiff_t pieces = piecesPerRow(rows, width, grain, team);
+    if (pieces == 1) {
+        forEachRow(rows, team, [&](std::ptrdiff_t y) { body(y, std::ptrdiff_t{0}, width); });
+        return;
+    }
+    // The grains of a row are dealt out as evenly as they go, the first
+    // pieces taking one more.
+    const std::ptrdiff_t grains = (width + grain - 1) / grain;
+    const std::ptrdiff_t base = grains / pieces, extra = grains % pieces;
+    auto edge = [&](std::ptrdiff_t i) {
+        return std::min(width, (i * base + std::min(i, extra)) * grain);
+    };
+    runTeam(team, [&] {
+#pragma omp for schedule(static)
+        for (std::ptrdiff_t unit = 0; unit < rows * pieces; ++unit) {
+            const std::ptrdiff_t y = unit / pieces;
+            const std::ptrdiff_t i = unit % pieces;
+            body(y, edge(i), edge(i + 1));
+        }
+    });
 }
 
 // Reduction over rows with a thread-count independent result: rows are
@@ -72,18 +140,16 @@ std::int64_t splitVector(int length, int threshold, Kernel&& kernel) {
 constexpr int kRowsPerSlot = 16;
 
 template <class Slot, class Accumulate, class Combine>
-bool reduceRows(int height, bool fork, Slot& total, Accumulate&& accumulate, Combine&& combine) {
-    const int blocks = (height + kRowsPerSlot - 1) / kRowsPerSlot;
+bool reduceRows(std::ptrdiff_t rows, int team, Slot& total, Accumulate&& accumulate, Combine&& combine) {
+    const std::ptrdiff_t blocks = (rows + kRowsPerSlot - 1) / kRowsPerSlot;
     Buffer<Slot> slots = allocBuffer<Slot>(static_cast<std::size_t>(blocks));
     if (!slots) return false;
-    for (int b = 0; b < blocks; ++b) new (&slots[b]) Slot{};
-    const int threads = fork ? ownGetNumThreads() : 1;
-#pragma omp parallel for num_threads(threads) schedule(static) if (threads > 1 && blocks > 1)
-    for (int b = 0; b < blocks; ++b) {
-        const int end = std::min(height, (b + 1) * kRowsPerSlot);
-        for (int y = b * kRowsPerSlot; y < end; ++y) accumulate(slots[b], y);
-    }
-    for (int b = 0; b < blocks; ++b) combine(total, slots[b]);
+    for (std::ptrdiff_t b = 0; b < blocks; ++b) new (&slots[b]) Slot{};
+    forEachRow(blocks, std::min<std::ptrdiff_t>(team, blocks), [&](std::ptrdiff_t b) {
+        const std::ptrdiff_t end = std::min<std::ptrdiff_t>(rows, (b + 1) * kRowsPerSlot);
+        for (std::ptrdiff_t y = b * kRowsPerSlot; y < end; ++y) accumulate(slots[b], y);
+    });
+    for (std::ptrdiff_t b = 0; b < blocks; ++b) combine(total, slots[b]);
     return true;
 }
 

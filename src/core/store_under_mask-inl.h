@@ -1,12 +1,12 @@
-// StoreUnderMask: writes the lanes of v selected by m to p, leaving the
-// other lanes' memory as it was. Per-target header (include it after
-// hwy/highway.h inside HWY_BEFORE_NAMESPACE, like Highway's own -inl files).
+// StoreUnderMask: writes the lanes of v selected by m to p and nothing
+// else. Per-target header (include it after hwy/highway.h inside
+// HWY_BEFORE_NAMESPACE, like Highway's own -inl files).
 //
-// AVX-512 has masked stores for every lane size and AVX2 for 32- and 64-bit
-// lanes; there the unselected bytes are not even read. Elsewhere Highway
-// falls back to a lane-by-lane loop, so the store becomes a blend with the
-// current contents instead: callers must own the whole vector's span (the
-// unselected lanes are written back unchanged).
+// The bytes of unselected lanes are neither read nor written: they may
+// belong to another thread (an alpha channel updated concurrently) or lie
+// on a page the caller has made read-only. AVX-512 has masked stores for
+// every lane size and AVX2 for 32- and 64-bit lanes; elsewhere the
+// selected lanes are stored one by one.
 #if defined(ZEL_CORE_STORE_UNDER_MASK_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef ZEL_CORE_STORE_UNDER_MASK_INL_H_
 #undef ZEL_CORE_STORE_UNDER_MASK_INL_H_
@@ -16,6 +16,9 @@
 
 #include <hwy/highway.h>
 
+#include <cstdint>
+#include <cstring>
+
 HWY_BEFORE_NAMESPACE();
 namespace zel {
 namespace HWY_NAMESPACE {
@@ -23,17 +26,28 @@ namespace HWY_NAMESPACE {
 template <class D, class V, class M>
 HWY_INLINE void StoreUnderMask(V v, M m, D d, hwy::HWY_NAMESPACE::TFromD<D>* p) {
     namespace hn = hwy::HWY_NAMESPACE;
+    using T = hn::TFromD<D>;
 #if HWY_TARGET == HWY_AVX3
     constexpr bool kNative = true;
 #elif HWY_TARGET == HWY_AVX2
-    constexpr bool kNative = sizeof(hn::TFromD<D>) >= 4;
+    constexpr bool kNative = sizeof(T) >= 4;
 #else
     constexpr bool kNative = false;
 #endif
     if constexpr (kNative) {
         hn::BlendedStore(v, m, d, p);
     } else {
-        hn::StoreU(hn::IfThenElse(m, v, hn::LoadU(d, p)), d, p);
+        // The selected lanes, found from the mask bits, are stored one at a
+        // time.
+        HWY_ALIGN T lanes[hn::MaxLanes(d)];
+        hn::Store(v, d, lanes);
+        std::uint64_t bits = 0;
+        hn::StoreMaskBits(d, m, reinterpret_cast<std::uint8_t*>(&bits));
+        while (bits != 0) {
+            const int i = __builtin_ctzll(bits);
+            std::memcpy(p + i, lanes + i, sizeof(T));
+            bits &= bits - 1;
+        }
     }
 }
 

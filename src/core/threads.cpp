@@ -1,6 +1,7 @@
 // The thread setting: the library's only mutable global.
 #include <omp.h>
 
+#include <algorithm>
 #include <atomic>
 
 #include "core/parallel.h"
@@ -8,8 +9,10 @@
 
 namespace {
 
+int processors() { return std::clamp(omp_get_num_procs(), 1, zel::kMaxThreads); }
+
 std::atomic<int>& threadSetting() {
-    static std::atomic<int> setting{omp_get_num_procs() > 0 ? omp_get_num_procs() : 1};
+    static std::atomic<int> setting{processors()};
     return setting;
 }
 
@@ -19,7 +22,7 @@ int ownGetNumThreads() { return threadSetting().load(std::memory_order_relaxed);
 
 ZelStatus zelSetNumThreads(int n) {
     if (n < 1) return zelStatusBadArgument;
-    threadSetting().store(n, std::memory_order_relaxed);
+    threadSetting().store(std::min(n, zel::kMaxThreads), std::memory_order_relaxed);
     return zelStatusOk;
 }
 

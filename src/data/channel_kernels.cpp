@@ -263,7 +263,7 @@ void shuffleImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
                   const ChannelOrder& order, bool partial) {
     const auto row = ZEL_DISPATCH(ShuffleRow<B, SC, DC, Order>);
     const std::int64_t pixelBytes = sizeof(B);
-    const ZeliSize rows = collapseRows(
+    const Rows rows = collapseRows(
         roi, {{srcStep, roi.width * SC * pixelBytes}, {dstStep, roi.width * DC * pixelBytes}});
     for (int y = 0; y < rows.height; ++y)
         row(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), rows.width, order, partial ? 1 : 0);
@@ -289,7 +289,7 @@ template <class B, int C>
 void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi, bool stream) {
     const auto row = ZEL_DISPATCH(SplitRow<B, C>);
     const std::int64_t elementBytes = sizeof(B);
-    const ZeliSize rows = collapseRows(
+    const Rows rows = collapseRows(
         roi, {{srcStep, roi.width * C * elementBytes}, {planeStep, roi.width * elementBytes}});
     for (int y = 0; y < rows.height; ++y) {
         B* rowPlanes[C];
@@ -303,7 +303,7 @@ template <class B, int C>
 void mergeImage(const B* const planes[], int planeStep, B* dst, int dstStep, ZeliSize roi, bool stream) {
     const auto row = ZEL_DISPATCH(MergeRow<B, C>);
     const std::int64_t elementBytes = sizeof(B);
-    const ZeliSize rows = collapseRows(
+    const Rows rows = collapseRows(
         roi, {{dstStep, roi.width * C * elementBytes}, {planeStep, roi.width * elementBytes}});
     for (int y = 0; y < rows.height; ++y) {
         const B* rowPlanes[C];

@@ -104,7 +104,7 @@ ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
 
     const std::int64_t rowBytes = std::int64_t{roi.width} * C * sizeof(T);
     const bool stream = streamFill(rowBytes * roi.height);
-    const ZeliSize rows = L == Layout::AC4 ? roi : collapseRows(roi, rowBytes, {dstStep});
+    const Rows rows = L == Layout::AC4 ? rowsOf(roi) : collapseRows(roi, rowBytes, {dstStep});
     const auto fillRow = ZEL_DISPATCH(FillRow<B, C, kComputed<L>>);
     B* dst = reinterpret_cast<B*>(pDst);
     for (int y = 0; y < rows.height; ++y) fillRow(rowAt(dst, dstStep, y), rows.width, pixel, stream);

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <omp.h>
 
+#include <climits>
 #include <cmath>
+#include <cstdint>
 #include <mutex>
 #include <set>
 #include <vector>
@@ -16,7 +18,7 @@ namespace {
 
 using zel::test::ConfigGuard;
 
-TEST(Threads, SettingIsValidatedAndReadBack) {
+TEST(Threads, SettingIsValidatedClampedAndReadBack) {
     ConfigGuard restore;
     int n = 0;
     ASSERT_EQ(zelGetNumThreads(&n), zelStatusOk);
@@ -27,31 +29,51 @@ TEST(Threads, SettingIsValidatedAndReadBack) {
     EXPECT_EQ(zelGetNumThreads(&n), zelStatusOk);
     EXPECT_EQ(n, 3);
     EXPECT_EQ(ownGetNumThreads(), 3);
+    for (int huge : {zel::kMaxThreads + 1, 30000, INT_MAX}) {
+        EXPECT_EQ(zelSetNumThreads(huge), zelStatusOk);
+        EXPECT_EQ(zelGetNumThreads(&n), zelStatusOk);
+        EXPECT_EQ(n, zel::kMaxThreads);
+    }
+}
+
+TEST(ForkRule, TeamGrowsWithWorkAndNeverExceedsSettingOrPieces) {
+    ConfigGuard restore;
+    const std::int64_t share = zel::kForkBytesPerThread;
+    zelSetNumThreads(4);
+    EXPECT_EQ(zel::teamSize(share - 1, zel::kCostMove, 1000), 1);      // too little work
+    EXPECT_EQ(zel::teamSize(2 * share, zel::kCostMove, 1000), 2);
+    EXPECT_EQ(zel::teamSize(3 * share - 1, zel::kCostMove, 1000), 2);
+    EXPECT_EQ(zel::teamSize(100 * share, zel::kCostMove, 1000), 4);    // the setting
+    EXPECT_EQ(zel::teamSize(100 * share, zel::kCostMove, 3), 3);       // the pieces
+    EXPECT_EQ(zel::teamSize(100 * share, zel::kCostMove, 1), 1);
+    // A costlier kernel forks on fewer bytes.
+    EXPECT_EQ(zel::teamSize(share, zel::kCostMove, 1000), 1);
+    EXPECT_EQ(zel::teamSize(share, zel::kCostDivide, 1000), 4);
+    zelSetNumThreads(1);
+    EXPECT_EQ(zel::teamSize(100 * share, zel::kCostDivide, 1000), 1);
+    zelSetNumThreads(zel::kMaxThreads);
+    EXPECT_EQ(zel::teamSize(INT64_MAX / 2, zel::kCostComplexDivide, INT64_MAX), zel::kMaxThreads);
 }
 
 // Which thread of how large a team handled each row.
 struct RowLog {
     std::vector<int> thread, team;
     explicit RowLog(int rows) : thread(rows, -1), team(rows, 0) {}
-    void record(int y) {
+    void record(std::ptrdiff_t y) {
         thread[y] = omp_get_thread_num();
         team[y] = omp_get_num_threads();
     }
 };
 
-TEST(RowSplit, OneThreadNeverForks) {
-    ConfigGuard restore;
-    zelSetNumThreads(1);
+TEST(RowSplit, TeamOfOneRunsOnTheCaller) {
     RowLog log(100);
-    zel::forEachRow(100, true, [&](int y) { log.record(y); });
+    zel::forEachRow(100, 1, [&](std::ptrdiff_t y) { log.record(y); });
     for (int y = 0; y < 100; ++y) EXPECT_EQ(log.team[y], 1);
 }
 
 TEST(RowSplit, RowsGoInContiguousBlocksEachToOneThread) {
-    ConfigGuard restore;
-    zelSetNumThreads(4);
     RowLog log(103);
-    zel::forEachRow(103, true, [&](int y) { log.record(y); });
+    zel::forEachRow(103, 4, [&](std::ptrdiff_t y) { log.record(y); });
     std::set<int> seen;
     for (int y = 0; y < 103; ++y) {
         ASSERT_GE(log.thread[y], 0) << "row " << y << " was skipped";
@@ -63,74 +85,97 @@ TEST(RowSplit, RowsGoInContiguousBlocksEachToOneThread) {
     EXPECT_EQ(log.team[0], 4);
 }
 
-TEST(RowSplit, HeightOneRunsOnce) {
-    ConfigGuard restore;
-    zelSetNumThreads(4);
-    int calls = 0;
-    zel::forEachRow(1, true, [&](int) { ++calls; });
-    EXPECT_EQ(calls, 1);
-}
-
-struct Chunk {
-    int thread, begin, count;
-    bool operator<(const Chunk& o) const { return begin < o.begin; }
+struct Piece {
+    std::ptrdiff_t y, begin, end;
+    bool operator<(const Piece& o) const { return y != o.y ? y < o.y : begin < o.begin; }
 };
 
-std::vector<Chunk> chunksOf(int length, int threads) {
-    zelSetNumThreads(threads);
+std::vector<Piece> piecesOf(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain, int team) {
     std::mutex m;
-    std::set<Chunk> chunks;
-    zel::splitVector(length, 1024, [&](int begin, int count) -> std::int64_t {
+    std::set<Piece> pieces;
+    zel::forEachPiece(rows, width, grain, team, [&](std::ptrdiff_t y, std::ptrdiff_t b, std::ptrdiff_t e) {
         std::lock_guard<std::mutex> lock(m);
-        chunks.insert({omp_get_thread_num(), begin, count});
-        return 0;
+        pieces.insert({y, b, e});
     });
-    return {chunks.begin(), chunks.end()};
+    return {pieces.begin(), pieces.end()};
 }
 
-TEST(VectorSplit, ThresholdTeamOfTwoAndRemainderToTheLast) {
-    ConfigGuard restore;
+TEST(PieceSplit, EveryElementOnceOnGrainBoundaries) {
     struct Case {
-        int length, threads;
-        std::vector<int> counts;
+        std::ptrdiff_t rows, width, grain;
+        int team;
+        std::size_t pieces;
     };
     const Case cases[] = {
-        {1023, 4, {1023}}, {1024, 4, {512, 512}}, {1025, 4, {512, 513}},
-        {1025, 2, {512, 513}}, {5000, 1, {5000}},
+        {1, 1000, 64, 2, 2},  {1, 1025, 64, 4, 4}, {2, 5000, 64, 4, 8}, {8, 100, 64, 4, 8},
+        {1, 100, 64, 4, 2},   {1, 10, 64, 4, 1},   {3, 6400, 192, 2, 3}, {1, 7, 1, 16, 7},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.length << " elements, " << c.threads << " threads");
-        const auto chunks = chunksOf(c.length, c.threads);
-        ASSERT_EQ(chunks.size(), c.counts.size());
-        int next = 0;
-        for (std::size_t i = 0; i < chunks.size(); ++i) {
-            EXPECT_EQ(chunks[i].begin, next);
-            EXPECT_EQ(chunks[i].count, c.counts[i]);
-            EXPECT_EQ(chunks[i].thread, static_cast<int>(i));
-            next += chunks[i].count;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.rows << " x " << c.width << ", grain " << c.grain
+                                        << ", team " << c.team);
+        const auto pieces = piecesOf(c.rows, c.width, c.grain, c.team);
+        EXPECT_EQ(pieces.size(), c.pieces);
+        std::ptrdiff_t y = 0, next = 0;
+        for (const Piece& p : pieces) {
+            if (p.y != y) {
+                EXPECT_EQ(next, c.width) << "row " << y << " not covered";
+                y = p.y;
+                next = 0;
+            }
+            EXPECT_EQ(p.begin, next);
+            EXPECT_EQ(p.begin % c.grain, 0);
+            EXPECT_GT(p.end, p.begin);
+            next = p.end;
         }
+        EXPECT_EQ(y, c.rows - 1);
+        EXPECT_EQ(next, c.width);
     }
 }
 
-TEST(VectorSplit, SpecialCasesOfAllChunksAreCounted) {
-    ConfigGuard restore;
-    zelSetNumThreads(2);
-    const auto met = zel::splitVector(4096, 1024, [](int, int count) -> std::int64_t { return count / 2; });
-    EXPECT_EQ(met, 2048);
+TEST(PieceSplit, WorkersComputeUnderTheCallersControlWord) {
+    std::vector<std::uint32_t> seen(4, 0);
+    {
+        zel::ScopedSseRounding down(zel::kSseRoundDown);
+        zel::forEachPiece(1, 4, 1, 4, [&](std::ptrdiff_t, std::ptrdiff_t b, std::ptrdiff_t) {
+            seen[b] = ps_get_ssx();
+        });
+    }
+    for (std::uint32_t cw : seen) EXPECT_EQ((cw >> 13) & 3u, zel::kSseRoundDown);
+    // The workers' own words come back afterwards.
+    std::vector<std::uint32_t> after(4, 0);
+    zel::forEachPiece(1, 4, 1, 4, [&](std::ptrdiff_t, std::ptrdiff_t b, std::ptrdiff_t) {
+        after[b] = ps_get_ssx();
+    });
+    for (std::uint32_t cw : after) EXPECT_EQ((cw >> 13) & 3u, zel::kSseRoundNearest);
+}
+
+TEST(FpControl, StandardEnvironmentRestoresTheWordAndKeepsRaisedFlags) {
+    const std::uint32_t before = ps_get_ssx();
+    ps_set_ssx((before & ~zel::kExceptionFlags) | (3u << 13) | 0x8040);  // toward zero, FTZ, DAZ
+    const std::uint32_t caller = ps_get_ssx();
+    {
+        zel::StandardFpEnvironment standard;
+        EXPECT_EQ(ps_get_ssx() & ~zel::kExceptionFlags, zel::kStandardControlWord);
+        volatile float one = 1.0f, three = 3.0f;
+        volatile float third = one / three;  // inexact
+        (void)third;
+    }
+    EXPECT_EQ(ps_get_ssx() & ~zel::kExceptionFlags, caller & ~zel::kExceptionFlags);
+    EXPECT_NE(ps_get_ssx() & 0x20u, 0u) << "the inexact flag raised inside was dropped";
+    ps_set_ssx(before);
 }
 
 TEST(Reduction, FloatSumDoesNotDependOnTheThreadCount) {
-    ConfigGuard restore;
-    auto sum = [](int threads) {
-        zelSetNumThreads(threads);
+    auto sum = [](int team) {
         double total = 0;
         EXPECT_TRUE(zel::reduceRows(
-            1000, true, total, [](double& slot, int y) { slot += 1.0 / (y + 1) + 1e10 * (y % 3 - 1); },
+            1000, team, total,
+            [](double& slot, std::ptrdiff_t y) { slot += 1.0 / (y + 1) + 1e10 * (y % 3 - 1); },
             [](double& t, double slot) { t += slot; }));
         return total;
     };
     const double one = sum(1);
-    for (int threads : {2, 3, 4, 7}) EXPECT_EQ(sum(threads), one) << threads << " threads";
+    for (int team : {2, 3, 4, 7}) EXPECT_EQ(sum(team), one) << team << " threads";
 }
 
 TEST(PlatformServices, CacheSizeNaNAndRounding) {
