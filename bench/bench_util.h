@@ -21,12 +21,14 @@ inline const std::vector<ZeliSize>& standardSizes() {
 
 inline std::string sizeName(ZeliSize s) { return std::to_string(s.width) + "x" + std::to_string(s.height); }
 
-// Registers body once per standard size as "<group>/<impl>/<WxH>"; `bytes`
-// (per iteration, for the given size) turns into a bandwidth counter.
+// Registers body once per size (the standard sizes by default) as
+// "<group>/<impl>/<WxH>"; `bytes` (per iteration, for the given size) turns
+// into a bandwidth counter.
 inline void registerSized(const std::string& group, const std::string& impl,
                           std::function<void(benchmark::State&, ZeliSize)> body,
-                          std::function<double(ZeliSize)> bytes = nullptr) {
-    for (ZeliSize size : standardSizes()) {
+                          std::function<double(ZeliSize)> bytes = nullptr,
+                          const std::vector<ZeliSize>& sizes = standardSizes()) {
+    for (ZeliSize size : sizes) {
         benchmark::RegisterBenchmark((group + "/" + impl + "/" + sizeName(size)).c_str(),
                                      [body, bytes, size](benchmark::State& state) {
                                          body(state, size);

@@ -10,6 +10,34 @@
  * Arguments are checked in a fixed order and the first failure is returned:
  * null pointers, then the ROI size, then the steps, then the operation's own
  * arguments. Families that depart from that order say so below.
+ *
+ * Promises every function keeps:
+ *
+ * - Image size. Any image zeliMalloc_* can return can be processed whole:
+ *   up to 2^31 - 1 pixels per row and 2^31 - 1 rows, with row steps up to
+ *   2^31 - 1 bytes, so well over 2^31 elements per call. Element counts and
+ *   offsets are 64-bit inside the library.
+ * - Untouched bytes. Bytes a function leaves alone (the alpha channel of
+ *   AC4 images, the other channels of a channel-of-interest call, pixels a
+ *   mask excludes, everything outside the ROI) are never written, not even
+ *   with their own value, and the ones the function does not need are not
+ *   read. Another thread may update them during the call.
+ * - Floating-point environment. Results never depend on the caller's SSE
+ *   rounding mode, flush-to-zero or denormals-are-zero setting: functions
+ *   that compute in floating point run under round-to-nearest without
+ *   flushing, with exceptions masked, and give the caller's control word
+ *   back on return (exception flags raised by the call are added to it).
+ * - Operand overlap. Defined overlaps are exactly the in-place members (I),
+ *   where one image is both source and destination, and a source passed
+ *   with the destination's own pointer and step to a pixelwise member whose
+ *   source and destination have the same type and layout (the arithmetic
+ *   families, Copy and SwapChannels within one layout): that call equals
+ *   the in-place form. Transpose states its own rule. Any other overlap of
+ *   a source with a destination, such as a destination one element after
+ *   its source, gives undefined results.
+ * - Threads. A call divides its work among threads only when each thread
+ *   gets enough work to pay for it; results never depend on the thread
+ *   count or on the SIMD instructions of the processor.
  */
 #ifndef ZELI_H
 #define ZELI_H
@@ -254,9 +282,15 @@ ZELAPI Zel32fc* zeliMalloc_32fc_C4(int width, int height, int* pStep);
 ZELAPI Zel32fc* zeliMalloc_32fc_AC4(int width, int height, int* pStep);
 ZELAPI void zeliFree(void* ptr);
 
-/* Threads the library may use for one call (default: the processor count).
-   zelSetNumThreads rejects n < 1 with zelStatusBadArgument; zelGetNumThreads
-   rejects a null pointer with zelStatusNullPtr. Results never depend on it. */
+/* Threads the library may use for one call (default: the processor count,
+   at most ZEL_MAX_THREADS). zelSetNumThreads rejects n < 1 with
+   zelStatusBadArgument and takes values above ZEL_MAX_THREADS as
+   ZEL_MAX_THREADS; zelGetNumThreads rejects a null pointer with
+   zelStatusNullPtr and reads back the setting in force. A call uses fewer
+   threads than the setting when its work is too small to pay for more, and
+   runs on the calling thread when one is enough. Results never depend on
+   the setting. */
+#define ZEL_MAX_THREADS 256
 ZELAPI ZelStatus zelSetNumThreads(int n);
 ZELAPI ZelStatus zelGetNumThreads(int* pNumThreads);
 

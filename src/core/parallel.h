@@ -29,14 +29,17 @@
 
 #include "core/fpcontrol.h"
 #include "core/memory.h"
+#include "zeli.h"
 
 // Threads the library may use for one call (the zelSetNumThreads setting).
 int ownGetNumThreads();
+// True while the tests ask every call to fork as if its work were large.
+bool ownForksEagerly();
 
 namespace zel {
 
 // The largest thread setting; larger requests are clamped to it.
-constexpr int kMaxThreads = 256;
+constexpr int kMaxThreads = ZEL_MAX_THREADS;
 
 // Cost weights: time per byte touched, relative to a pass that only loads,
 // combines and stores (a copy, Add, Set). Measured on the kernels.
@@ -52,13 +55,18 @@ enum ForkCost : int {
 // sleeping team (5 to 10 us under OMP_WAIT_POLICY=passive).
 constexpr std::int64_t kForkBytesPerThread = std::int64_t{2} << 20;
 
+// Makes every call fork as far as its pieces allow, whatever its size (the
+// tests' way to run team paths on small images); false restores the rule.
+void forkEagerlyForTests(bool eager);
+
 // Threads worth using for `bytes` bytes touched at `cost` weight, cut into
 // at most `pieces` pieces; 1 means run on the calling thread.
 inline int teamSize(std::int64_t bytes, int cost, std::int64_t pieces) {
     const int allowed = ownGetNumThreads();
     if (allowed <= 1 || pieces <= 1) return 1;
     const std::int64_t perThread = kForkBytesPerThread / cost;
-    const std::int64_t byWork = bytes / std::max<std::int64_t>(perThread, 1);
+    const std::int64_t byWork =
+        ownForksEagerly() ? pieces : bytes / std::max<std::int64_t>(perThread, 1);
     const std::int64_t team = std::min<std::int64_t>({byWork, allowed, pieces});
     return team < 2 ? 1 : static_cast<int>(team);
 }

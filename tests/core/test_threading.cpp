@@ -53,6 +53,18 @@ TEST(ForkRule, TeamGrowsWithWorkAndNeverExceedsSettingOrPieces) {
     EXPECT_EQ(zel::teamSize(100 * share, zel::kCostDivide, 1000), 1);
     zelSetNumThreads(zel::kMaxThreads);
     EXPECT_EQ(zel::teamSize(INT64_MAX / 2, zel::kCostComplexDivide, INT64_MAX), zel::kMaxThreads);
+    // The tests' eager mode forks any work as far as its pieces go, and
+    // leaves the thread count alone.
+    zelSetNumThreads(4);
+    zel::forkEagerlyForTests(true);
+    EXPECT_EQ(zel::teamSize(1, zel::kCostMove, 3), 3);
+    EXPECT_EQ(zel::teamSize(1, zel::kCostMove, 1000), 4);
+    EXPECT_EQ(zelSetNumThreads(2), zelStatusOk);
+    EXPECT_EQ(zel::teamSize(1, zel::kCostMove, 1000), 2);
+    EXPECT_EQ(ownGetNumThreads(), 2);
+    zel::forkEagerlyForTests(false);
+    EXPECT_EQ(zel::teamSize(1, zel::kCostMove, 1000), 1);
+    EXPECT_EQ(ownGetNumThreads(), 2);
 }
 
 // Which thread of how large a team handled each row.
