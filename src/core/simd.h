@@ -33,11 +33,21 @@ inline std::size_t indexOf(std::int64_t target) {
     return probe.GetIndex();
 }
 
+// The dispatch-table indices of the wider targets, worked out once.
+inline std::size_t avx3Index() {
+    static const std::size_t index = indexOf(HWY_AVX3);
+    return index;
+}
+inline std::size_t avx2Index() {
+    static const std::size_t index = indexOf(HWY_AVX2);
+    return index;
+}
+
 template <class Fn>
 Fn choose(Fn avx3, Fn avx2, Fn ssse3) {
     const std::size_t chosen = chosenIndex();
-    if (avx3 != nullptr && chosen == indexOf(HWY_AVX3)) return avx3;
-    if (avx2 != nullptr && chosen == indexOf(HWY_AVX2)) return avx2;
+    if (avx3 != nullptr && chosen == avx3Index()) return avx3;
+    if (avx2 != nullptr && chosen == avx2Index()) return avx2;
     return ssse3;
 }
 
