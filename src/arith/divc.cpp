@@ -10,6 +10,7 @@
 // results are x * (1 / c), which may differ from x / c in the last bit.
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
 
@@ -20,12 +21,25 @@
 namespace zel::div {
 namespace {
 
+// Zero by its bits: a subnormal constant is not zero, even when the
+// caller's environment treats denormals as zero in comparisons.
+template <class P>
+bool isZeroPart(P v) {
+    if constexpr (std::is_floating_point_v<P>) {
+        std::uint32_t bits;
+        std::memcpy(&bits, &v, sizeof bits);
+        return (bits & 0x7FFFFFFFu) == 0;
+    } else {
+        return v == 0;
+    }
+}
+
 template <class T>
 bool isZero(const T& v) {
     if constexpr (std::is_arithmetic_v<T>)
-        return v == T(0);
+        return isZeroPart(v);
     else
-        return v.re == 0 && v.im == 0;
+        return isZeroPart(v.re) && isZeroPart(v.im);
 }
 
 // x * (1 / c) per channel, through the MulC member of the same layout.
