@@ -158,30 +158,6 @@ HWY_INLINE V ScaleStep(DW dw, V v, const arith::ScaleArgs& a) {
     }
 }
 
-// The first `count` elements at p (count below the lanes of d), the other
-// lanes zero; no byte after them is read, so a row may end just before a
-// page the caller cannot read. AVX-512 masked loads, and AVX2 ones for 32-
-// and 64-bit lanes, suppress faults on unselected lanes; elsewhere the
-// elements are copied into a vector-sized buffer.
-template <class D>
-HWY_INLINE hn::VFromD<D> LoadFirst(D d, const hn::TFromD<D>* p, std::size_t count) {
-    using T = hn::TFromD<D>;
-#if HWY_TARGET == HWY_AVX3
-    constexpr bool kNative = true;
-#elif HWY_TARGET == HWY_AVX2
-    constexpr bool kNative = sizeof(T) >= 4;
-#else
-    constexpr bool kNative = false;
-#endif
-    if constexpr (kNative) {
-        return hn::MaskedLoad(hn::FirstN(d, count), d, p);
-    } else {
-        HWY_ALIGN T lanes[hn::MaxLanes(d)] = {};
-        std::memcpy(lanes, p, count * sizeof(T));
-        return hn::Load(d, lanes);
-    }
-}
-
 // A row of n elements (n may exceed 2^31). `keep`, when set, is laid out
 // like the constant pattern and marks the elements to leave alone; they
 // are neither stored nor part of the tail's loads beyond the row.
