@@ -224,8 +224,11 @@ ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int d
     if (ZelStatus st = check) return st;
 
     const Band band = chooseBand<Op, T>(scale);
+    // A complex row is filled as a row of parts, whose count must fit a
+    // ZeliSize width; wider rows compute their zeros.
+    constexpr int kFillParts = kIsComplex<T> ? kChannels<L> * 2 : 1;
     if constexpr (takesZeroShortcut<Op, T, L, F>())
-        if (band == Band::Zero && std::int64_t{roi.width} * kChannels<L> * 2 <= INT_MAX)
+        if (band == Band::Zero && std::int64_t{roi.width} * kFillParts <= INT_MAX)
             return zeroFill<T, L>(dst, dstStep, roi);
 
     if constexpr (kIsFloat<T>) {
