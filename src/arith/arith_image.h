@@ -5,7 +5,6 @@
 // Include after the per-target kernels (binary_row-inl.h) inside HWY_ONCE.
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstddef>
