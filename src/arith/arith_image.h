@@ -1,17 +1,21 @@
 // The wrapper shared by Add, Sub, Mul, their constant forms and MulScale:
 // argument checks in the member's order, the scale-factor band, the zero
-// fill shortcut, and the row loop (forked for the members that fork).
+// fill shortcut, and one pass over the rows under the library's fork rule.
 //
 // Include after the per-target kernels (binary_row-inl.h) inside HWY_ONCE.
 #pragma once
 
+#include <array>
 #include <climits>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "arith/complex_row.h"
 #include "arith/scale.h"
 #include "core/checks.h"
+#include "core/fpcontrol.h"
 #include "core/image.h"
 #include "core/parallel.h"
 #include "core/pixel.h"
@@ -48,24 +52,6 @@ inline constexpr bool kChecksSteps = kOneOf<T, Zel16sc, Zel32fc> || std::is_same
 template <class Op>
 inline constexpr bool kStepBeforeSize = std::is_same_v<Op, MulScaleOp>;
 
-// Members that split their rows among threads, and when.
-template <class Op, class T, Layout L, Form F>
-bool forksRows(ZeliSize roi) {
-    if constexpr (std::is_same_v<Op, MulScaleOp>) {
-        return false;
-    } else if constexpr (!kConstForm<F>) {
-        return kOneOf<T, Zel8u, Zel16s, Zel32f> && L == Layout::C1;
-    } else if constexpr (kOneOf<T, Zel8u, Zel16s>) {
-        return L == Layout::C1 || L == Layout::C3;
-    } else if constexpr (std::is_same_v<T, Zel32f>) {
-        const bool member = L == Layout::C1 || L == Layout::C3 ||
-                            (L == Layout::AC4 && F == Form::ConstInPlace);
-        return member && std::int64_t{roi.width} + roi.height >= 256;
-    } else {
-        return false;
-    }
-}
-
 // Zero fill through the exported Set of the element's base type (16u has
 // none of its own; 16s writes the same bits). A complex row is filled as a
 // row of its parts, which need not be aligned for the wider type.
@@ -93,12 +79,29 @@ ZelStatus zeroFill(T* dst, int step, ZeliSize roi) {
     }
 }
 
+// A row kernel: n elements of p and of q (or of the constant pattern at q),
+// results to dst; see BinaryRow.
 template <class B>
-using RowKernel = void (*)(const B* p, const B* q, bool qPattern, B* dst, int n, int period,
+using RowKernel = void (*)(const B* p, const B* q, bool qPattern, B* dst, std::ptrdiff_t n, int period,
                            const BitsOf<B>* keep, const ScaleArgs& args);
 
-// Patterns long enough for `period` vectors of the widest target.
-constexpr int kPatternLength = 8 * 64;
+// Patterns are laid out for `period` vectors of up to this many lanes, so
+// every vector of a row starts at a known place in the pixel: element x of
+// a row sits at x mod (period * lanes) in the pattern.
+constexpr int kMaxLanes = 64;
+
+// The elements of AC4 rows to leave alone, as the kernels read them: all
+// bits set on the alpha channel's `Sub` elements of every `Period`. A
+// constant of the build.
+template <class U, int Period, int Sub>
+struct AlphaPattern {
+    static constexpr std::array<U, Period * kMaxLanes> make() {
+        std::array<U, Period * kMaxLanes> keep{};
+        for (int i = 0; i < Period * kMaxLanes; ++i) keep[i] = i % Period >= Period - Sub ? U(~U(0)) : U(0);
+        return keep;
+    }
+    static constexpr std::array<U, Period * kMaxLanes> kKeep = make();
+};
 
 // The row kernel of an operation on T for a band: the SIMD kernel of the
 // best target, or the scalar one for 32sc, whose exact values do not fit
@@ -136,13 +139,80 @@ RowKernel<BaseOf<T>> rowKernel(Band band) {
 
 }  // namespace
 
+// Weight of a member's work per byte for the fork rule (parallel.h):
+// saturating sums and differences, zeros and 32f sums move memory; scaled
+// and widened integer work and products cost about twice that; 32sc is
+// scalar 128-bit arithmetic.
+template <class Op, class T>
+int forkCost(Band band) {
+    using B = BaseOf<T>;
+    if constexpr (kScalarRow<Op, T>) {
+        (void)band;
+        return kCostExact;
+    } else if constexpr (kIsFloat<T>) {
+        (void)band;
+        return kIsComplex<T> && std::is_same_v<Op, MulOp> ? kCostWiden : kCostMove;
+    } else {
+        const bool moves = band == Band::Zero || (band == Band::Plain && kNativeLanes<Op, B, Band::Plain>) ||
+                           (band == Band::One && kNativeLanes<Op, B, Band::One>);
+        return moves ? kCostMove : kCostWiden;
+    }
+}
+
+// The pass over the rows, after the checks and shortcuts. Contiguous rows
+// run as one long row; rows (or pieces of the long row, cut on multiples of
+// the patterns' length) go to the team that the fork rule picks. The
+// kernels never see an AC4 row's last alpha element: a page the caller may
+// not read can follow it.
+template <class Op, class T, Layout L, Form F>
+void computeRows(const T* p, int pStep, const T* q, int qStep, T* dst, int dstStep, ZeliSize roi, Band band,
+                 int scale) {
+    using B = BaseOf<T>;
+    constexpr bool isConst = kConstForm<F>;
+    constexpr int kSub = kIsComplex<T> ? 2 : 1;  // base elements per channel
+    constexpr int kPeriod = kChannels<L> * kSub;
+    constexpr std::ptrdiff_t kGrain = std::ptrdiff_t{kPeriod} * kMaxLanes;
+    constexpr std::ptrdiff_t kAlphaTail = L == Layout::AC4 ? kSub : 0;
+
+    const BitsOf<B>* keep = nullptr;
+    if constexpr (L == Layout::AC4) keep = AlphaPattern<BitsOf<B>, kPeriod, kSub>::kKeep.data();
+    // The constant's values per channel (0 under alpha), repeated.
+    B values[isConst ? kGrain : 1];
+    const B* qBase = reinterpret_cast<const B*>(q);
+    if constexpr (isConst) {
+        for (int c = 0; c < kPeriod; ++c) values[c] = c < kComputed<L> * kSub ? qBase[c] : B(0);
+        // kGrain is kPeriod times a power of two: six doublings of
+        // constant sizes, which the compiler turns into plain moves.
+#pragma GCC unroll 8
+        for (std::ptrdiff_t have = kPeriod; have < kGrain; have *= 2)
+            std::memcpy(values + have, values, have * sizeof(B));
+        qBase = values;
+    }
+
+    const RowKernel<B> row = rowKernel<Op, T>(band);
+    const ScaleArgs args = scaleArgs<Op, T>(scale);
+    const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
+    const Rows rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
+                              : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
+    const std::ptrdiff_t n = rows.width * kPeriod;
+    const std::int64_t touched = rowBytes * roi.height * (isConst ? 2 : 3);
+    const int team = teamSize(touched, forkCost<Op, T>(band), pieceCount(rows.height, n, kGrain));
+    const B* pBase = reinterpret_cast<const B*>(p);
+    B* dBase = reinterpret_cast<B*>(dst);
+    forEachPiece(rows.height, n, kGrain, team, [&](std::ptrdiff_t y, std::ptrdiff_t begin, std::ptrdiff_t end) {
+        if (end == n) end -= kAlphaTail;
+        row(rowAt(pBase, pStep, y) + begin, isConst ? qBase : rowAt(qBase, qStep, y) + begin, isConst,
+            rowAt(dBase, dstStep, y) + begin, end - begin, kPeriod, keep, args);
+    });
+}
+
 // Runs one member. p is the image the operation starts from (the minuend of
 // Sub, the source of the constant forms, the in-place image); q is the
-// other image or the constant's values.
+// other image or the constant's values. Floating-point members compute
+// under the standard environment, whatever the caller's.
 template <class Op, class T, Layout L, Form F>
 ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int dstStep, ZeliSize roi,
                      int scale) {
-    using B = BaseOf<T>;
     constexpr bool isConst = kConstForm<F>;
     Check check;
     check.ptrs(p, q, dst);
@@ -153,44 +223,19 @@ ZelStatus arithImage(const T* p, int pStep, const T* q, int qStep, T* dst, int d
     if (ZelStatus st = check) return st;
 
     const Band band = chooseBand<Op, T>(scale);
+    // A complex row is filled as a row of parts, whose count must fit a
+    // ZeliSize width; wider rows compute their zeros.
+    constexpr int kFillParts = kIsComplex<T> ? kChannels<L> * 2 : 1;
     if constexpr (takesZeroShortcut<Op, T, L, F>())
-        if (band == Band::Zero && std::int64_t{roi.width} * kChannels<L> * 2 <= INT_MAX)
+        if (band == Band::Zero && std::int64_t{roi.width} * kFillParts <= INT_MAX)
             return zeroFill<T, L>(dst, dstStep, roi);
 
-    constexpr int kSub = kIsComplex<T> ? 2 : 1;  // base elements per channel
-    constexpr int kPeriod = kChannels<L> * kSub;
-    BitsOf<B> keepPattern[kPatternLength];
-    const BitsOf<B>* keep = nullptr;
-    if constexpr (L == Layout::AC4) {
-        for (int i = 0; i < kPatternLength; ++i)
-            keepPattern[i] = i % kPeriod >= 3 * kSub ? BitsOf<B>(~BitsOf<B>(0)) : BitsOf<B>(0);
-        keep = keepPattern;
+    if constexpr (kIsFloat<T>) {
+        StandardFpEnvironment environment;
+        computeRows<Op, T, L, F>(p, pStep, q, qStep, dst, dstStep, roi, band, scale);
+    } else {
+        computeRows<Op, T, L, F>(p, pStep, q, qStep, dst, dstStep, roi, band, scale);
     }
-    B valuePattern[kPatternLength];
-    const B* qBase = reinterpret_cast<const B*>(q);
-    if constexpr (isConst) {
-        for (int i = 0; i < kPatternLength; ++i) {
-            const int c = i % kPeriod;
-            valuePattern[i] = c < kComputed<L> * kSub ? qBase[c] : B(0);
-        }
-        qBase = valuePattern;
-    }
-
-    const RowKernel<B> row = rowKernel<Op, T>(band);
-    const ScaleArgs args = scaleArgs<Op, T>(scale);
-    const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
-    const Rows rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
-                              : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
-    const std::ptrdiff_t n = rows.width * kPeriod;
-    const int team = forksRows<Op, T, L, F>(roi)
-                         ? teamSize(rowBytes * roi.height * (isConst ? 2 : 3), kCostMove, rows.height)
-                         : 1;
-    const B* pBase = reinterpret_cast<const B*>(p);
-    B* dBase = reinterpret_cast<B*>(dst);
-    forEachRow(rows.height, team, [&](std::ptrdiff_t y) {
-        row(rowAt(pBase, pStep, y), isConst ? qBase : rowAt(qBase, qStep, y), isConst,
-            rowAt(dBase, dstStep, y), n, kPeriod, keep, args);
-    });
     return zelStatusOk;
 }
 

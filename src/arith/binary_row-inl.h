@@ -12,8 +12,8 @@
 // for 8-bit elements, 32-bit for 16-bit ones), combined, scaled by the
 // band's rule and narrowed back with saturation; saturating sums and
 // differences stay in the element's lanes, and 32f and 32fc are computed in
-// their own. The last partial vector goes through a small buffer so it runs
-// the very same code as the rest of the row.
+// their own. The last partial vector runs the very same code as the rest of
+// the row: its loads and stores cover only the elements of the row.
 #if defined(ZEL_ARITH_BINARY_ROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef ZEL_ARITH_BINARY_ROW_INL_H_
 #undef ZEL_ARITH_BINARY_ROW_INL_H_
@@ -40,14 +40,9 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Lane type in which an operation on T is carried out exactly. Sums and
 // differences of 8-bit values fit 16-bit signed lanes and their products
 // 16-bit unsigned lanes; the 16-bit types need 32-bit lanes, unsigned for
-// the unsigned products. Saturating sums and differences (s = 0) and the
-// halved 8-bit and 16-bit unsigned sums (s = 1) stay in the element's own
-// lanes.
-template <class Op, class T, arith::Band B>
-inline constexpr bool kNativeLanes =
-    std::is_integral_v<T> && !std::is_same_v<T, std::int32_t> &&
-    ((B == arith::Band::Plain && (std::is_same_v<Op, arith::AddOp> || std::is_same_v<Op, arith::SubOp>)) ||
-     (B == arith::Band::One && std::is_same_v<Op, arith::AddOp> && std::is_unsigned_v<T>));
+// the unsigned products. The operations of arith::kNativeLanes stay in the
+// element's own lanes.
+using arith::kNativeLanes;
 
 template <class Op>
 inline constexpr bool kIsProduct = std::is_same_v<Op, arith::MulOp> || std::is_same_v<Op, arith::MulScaleOp>;
@@ -163,8 +158,11 @@ HWY_INLINE V ScaleStep(DW dw, V v, const arith::ScaleArgs& a) {
     }
 }
 
+// A row of n elements (n may exceed 2^31). `keep`, when set, is laid out
+// like the constant pattern and marks the elements to leave alone; they
+// are neither stored nor part of the tail's loads beyond the row.
 template <class Op, class T, arith::Band B>
-void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
+void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::ptrdiff_t n, int period,
                const BitsOf<T>* keep, const arith::ScaleArgs& args) {
     using W = WideLane<Op, T, B>;
     // Rows that only load, add and store run at the memory's pace, which
@@ -175,18 +173,19 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
     const DW dw;
     const hn::Rebind<T, decltype(dw)> dn;
     const hn::RebindToUnsigned<decltype(dn)> du;
-    const int lanes = static_cast<int>(hn::Lanes(dw));
+    using U = BitsOf<T>;
+    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(dw));
 
-    // One vector of results from the vectors at pv and qv.
-    auto compute = [&](const T* pv, const T* qv) HWY_ATTR {
+    // One vector of results from the operand vectors vp and vq.
+    auto compute = [&](hn::VFromD<decltype(dn)> vp, hn::VFromD<decltype(dn)> vq) HWY_ATTR {
         if constexpr (kNativeLanes<Op, T, B>) {
-            return NativeStep<Op, B>(dn, hn::LoadU(dn, pv), hn::LoadU(dn, qv));
+            return NativeStep<Op, B>(dn, vp, vq);
         } else if constexpr (B == arith::Band::Zero) {
-            (void)pv;
-            (void)qv;
+            (void)vp;
+            (void)vq;
             return hn::Zero(dn);
         } else {
-            const auto v = Combine<Op, T>(dw, Widen(dw, hn::LoadU(dn, pv)), Widen(dw, hn::LoadU(dn, qv)));
+            const auto v = Combine<Op, T>(dw, Widen(dw, vp), Widen(dw, vq));
             auto scaled = ScaleStep<B>(dw, v, args);
             if constexpr (std::is_same_v<Op, arith::ComplexMulOp> && std::is_integral_v<T>) {
                 const auto wrapped = hn::Eq(v, hn::Set(dw, std::numeric_limits<W>::min()));
@@ -195,42 +194,36 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, int n, int period,
             return Narrow(dn, dw, scaled);
         }
     };
-    // Vector j of the pattern, stored at out.
-    auto vectorStep = [&](const T* pv, const T* qv, T* out, int j) HWY_ATTR {
-        const auto r = compute(pv, qv);
-        if (keep != nullptr) {
-            const auto written = hn::Not(hn::MaskFromVec(hn::LoadU(du, keep + j * lanes)));
-            StoreUnderMask(hn::BitCast(du, r), written, du, reinterpret_cast<BitsOf<T>*>(out));
-        } else {
-            hn::StoreU(r, dn, out);
-        }
+    // The lanes of vector j of the pattern that belong to the result.
+    auto written = [&](std::ptrdiff_t j) HWY_ATTR {
+        return hn::Not(hn::MaskFromVec(hn::LoadU(du, keep + j * lanes)));
     };
 
-    int x = 0;
-    int j = 0;  // vector index within the pattern
+    std::ptrdiff_t x = 0;
+    std::ptrdiff_t j = 0;  // vector index within the patterns
     if (!qPattern && keep == nullptr) {
-        for (; x + 2 * lanes <= n; x += 2 * lanes) {
-            const auto r0 = compute(p + x, q + x);
-            const auto r1 = compute(p + x + lanes, q + x + lanes);
+        for (; n - x >= 2 * lanes; x += 2 * lanes) {
+            const auto r0 = compute(hn::LoadU(dn, p + x), hn::LoadU(dn, q + x));
+            const auto r1 = compute(hn::LoadU(dn, p + x + lanes), hn::LoadU(dn, q + x + lanes));
             hn::StoreU(r0, dn, dst + x);
             hn::StoreU(r1, dn, dst + x + lanes);
         }
-        j = (x / lanes) % period;
     }
-    for (; x + lanes <= n; x += lanes) {
-        vectorStep(p + x, qPattern ? q + j * lanes : q + x, dst + x, j);
+    for (; n - x >= lanes; x += lanes) {
+        const auto r = compute(hn::LoadU(dn, p + x), hn::LoadU(dn, qPattern ? q + j * lanes : q + x));
+        if (keep != nullptr)
+            StoreUnderMask(hn::BitCast(du, r), written(j), du, reinterpret_cast<U*>(dst + x));
+        else
+            hn::StoreU(r, dn, dst + x);
         if (++j == period) j = 0;
     }
     if (x < n) {
-        const int rest = n - x;
-        HWY_ALIGN T tailP[hn::MaxLanes(dw)] = {};
-        HWY_ALIGN T tailQ[hn::MaxLanes(dw)] = {};
-        HWY_ALIGN T tailDst[hn::MaxLanes(dw)] = {};
-        std::memcpy(tailP, p + x, rest * sizeof(T));
-        std::memcpy(tailQ, qPattern ? q + j * lanes : q + x, (qPattern ? lanes : rest) * sizeof(T));
-        std::memcpy(tailDst, dst + x, rest * sizeof(T));
-        vectorStep(tailP, tailQ, tailDst, j);
-        std::memcpy(dst + x, tailDst, rest * sizeof(T));
+        const std::size_t rest = static_cast<std::size_t>(n - x);
+        const auto vq = qPattern ? hn::LoadU(dn, q + j * lanes) : LoadFirst(dn, q + x, rest);
+        const auto r = compute(LoadFirst(dn, p + x, rest), vq);
+        auto selected = hn::FirstN(du, rest);
+        if (keep != nullptr) selected = hn::And(selected, written(j));
+        StoreUnderMask(hn::BitCast(du, r), selected, du, reinterpret_cast<U*>(dst + x));
     }
 }
 

@@ -8,6 +8,7 @@
 // plain statement of what the SIMD kernels compute.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 
@@ -21,7 +22,7 @@ using ExactOf = std::conditional_t<std::is_floating_point_v<B>, B,
                 std::conditional_t<sizeof(B) == 2, std::int64_t, __int128>>;
 
 template <class Op, class B, Band Bd>
-void ComplexRow(const B* p, const B* q, bool qPattern, B* dst, int n, int period,
+void ComplexRow(const B* p, const B* q, bool qPattern, B* dst, std::ptrdiff_t n, int period,
                 const BitsOf<B>* keep, const ScaleArgs& args) {
     using E = ExactOf<B>;
     auto finish = [&](E v) -> B {
@@ -32,7 +33,8 @@ void ComplexRow(const B* p, const B* q, bool qPattern, B* dst, int n, int period
             return scaleSaturate<B>(v, args.scale);
         }
     };
-    for (int i = 0, c = 0; i < n; i += 2, c = (c + 2 == period) ? 0 : c + 2) {
+    int c = 0;  // place within the pattern
+    for (std::ptrdiff_t i = 0; i < n; i += 2, c = (c + 2 == period) ? 0 : c + 2) {
         if (keep != nullptr && keep[c] != 0) continue;
         const B* qv = qPattern ? q + c : q + i;
         const E pr = p[i], pi = p[i + 1], qr = qv[0], qi = qv[1];

@@ -22,23 +22,26 @@
 
 #include <algorithm>
 #include <atomic>
-#include <climits>
+#include <cstddef>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
 
 #include "arith/div_rounding.h"
+#include "core/store_under_mask-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace zel {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Elements [begin, begin + count) of one row; with `Alpha` every fourth
-// element (AC4 alpha) is neither read for the warning nor written.
+// `count` elements of a row (or of a run within it) from the given
+// addresses, whose first element is a pixel's first channel; with `Alpha`
+// every fourth element (AC4 alpha) is neither read for the warning nor
+// written.
 template <class T, bool Alpha>
-std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
+std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, std::ptrdiff_t count, int mode,
                           int scale, bool /*stream*/) {
     using F = std::conditional_t<sizeof(T) == 1, float, double>;
     const hn::ScalableTag<F> df;
@@ -46,7 +49,7 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
     const hn::Rebind<std::int32_t, decltype(df)> di;
     const hn::Rebind<T, decltype(df)> dt;
     const hn::Rebind<std::make_unsigned_t<T>, decltype(df)> dtu;
-    const int lanes = static_cast<int>(hn::Lanes(df));
+    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(df));
     const auto load = [&](const T* p) {
         if constexpr (sizeof(T) == 1)
             return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
@@ -75,9 +78,8 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
 
     const hn::RebindToSigned<decltype(df)> ds;
     auto zeroLanes = hn::Zero(ds);  // zero divisors per lane (a true mask is -1)
-    int i = begin;
-    const int end = begin + count;
-    for (; i + lanes <= end; i += lanes) {
+    std::ptrdiff_t i = 0;
+    for (; count - i >= lanes; i += lanes) {
         const auto a = load(divisor + i);
         auto zero = hn::Eq(a, hn::Zero(df));
         const auto scaled = scale == 0 ? a : hn::Mul(a, divisorScale);
@@ -98,11 +100,12 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
         }
         const auto out = toT(q);
         if constexpr (Alpha) {
-            const int phase = i & 3;
+            // Vectors of two doubles (SSSE3) start at either half of a pixel.
+            const int phase = static_cast<int>(i & 3);
             const auto keepT = hn::Ne(hn::And(hn::Iota(dtu, phase), hn::Set(dtu, 3)), hn::Set(dtu, 3));
             const auto keepF =
                 hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
-            hn::BlendedStore(out, hn::RebindMask(dt, keepT), dt, dst + i);
+            StoreUnderMask(hn::BitCast(dtu, out), keepT, dtu, reinterpret_cast<std::make_unsigned_t<T>*>(dst + i));
             zero = hn::And(zero, keepF);
         } else {
             hn::StoreU(out, dt, dst + i);
@@ -110,47 +113,47 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, int begin
         zeroLanes = hn::Sub(zeroLanes, hn::VecFromMask(ds, hn::RebindMask(ds, zero)));
     }
     std::int64_t zeros = hn::GetLane(hn::SumOfLanes(ds, zeroLanes));
-    for (; i < end; ++i)
+    for (; i < count; ++i)
         if (!Alpha || (i & 3) != 3) dst[i] = div::divideReal(divisor[i], dividend[i], scale, mode, zeros);
     return zeros;
 }
 
 // IEEE single-precision division; zero divisors (either sign) are counted.
-// With `stream` (large images) the stores bypass the caches once the
-// destination is vector-aligned.
+// Same row contract as DivideIntRow. With `stream` (large images) the
+// stores bypass the caches once the destination is vector-aligned.
 template <bool Alpha>
-std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst, int begin, int count,
+std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst, std::ptrdiff_t count,
                             int /*mode*/, int /*scale*/, bool stream) {
     const hn::ScalableTag<float> df;
     const hn::RebindToSigned<decltype(df)> di;
-    const int lanes = static_cast<int>(hn::Lanes(df));
+    const hn::RebindToUnsigned<decltype(df)> du;
+    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(df));
     std::int64_t zeros = 0;
-    const auto one = [&](int i) {
+    const auto one = [&](std::ptrdiff_t i) {
         if (Alpha && (i & 3) == 3) return;
         zeros += divisor[i] == 0.0f;
         dst[i] = dividend[i] / divisor[i];
     };
-    int i = begin;
-    const int end = begin + count;
+    std::ptrdiff_t i = 0;
     const auto misaligned = [&] {
         return reinterpret_cast<std::uintptr_t>(dst + i) % (lanes * sizeof(float)) != 0;
     };
     stream = stream && !Alpha;
     if (stream) {
-        while (i < end && i < begin + lanes && misaligned()) one(i++);
+        while (i < count && i < lanes && misaligned()) one(i++);
         stream = !misaligned();
     }
-    // Lanes are a multiple of 4, so the alpha lanes sit at the same place in every vector.
-    const auto keep =
-        hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(di, i & 3), hn::Set(di, 3)), hn::Set(di, 3)));
+    // Lanes are a multiple of 4, so the alpha lanes sit at the same place in
+    // every vector (the head above runs only without alpha).
+    const auto keep = hn::Ne(hn::And(hn::Iota(du, 0), hn::Set(du, 3)), hn::Set(du, 3));
     auto zeroLanes = hn::Zero(di);  // zero divisors per lane (a true mask is -1)
-    for (; i + lanes <= end; i += lanes) {
+    for (; count - i >= lanes; i += lanes) {
         const auto a = hn::LoadU(df, divisor + i);
         const auto q = hn::Div(hn::LoadU(df, dividend + i), a);
         auto zero = hn::Eq(a, hn::Zero(df));
         if constexpr (Alpha) {
-            hn::BlendedStore(q, keep, df, dst + i);
-            zero = hn::And(zero, keep);
+            StoreUnderMask(hn::BitCast(du, q), keep, du, reinterpret_cast<std::uint32_t*>(dst + i));
+            zero = hn::And(zero, hn::RebindMask(df, keep));
         } else if (stream) {
             hn::Stream(q, df, dst + i);
         } else {
@@ -160,7 +163,7 @@ std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* 
     }
     if (stream) hwy::FlushStream();
     zeros += hn::GetLane(hn::SumOfLanes(di, zeroLanes));
-    for (; i < end; ++i) one(i);
+    for (; i < count; ++i) one(i);
     return zeros;
 }
 
@@ -180,10 +183,10 @@ namespace {
 
 // Complex rows stay scalar: their 128-bit intermediates have no vector form.
 template <class T, bool Alpha>
-std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int begin, int count, int mode,
+std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, std::ptrdiff_t count, int mode,
                               int scale, bool /*stream*/) {
     std::int64_t warnings = 0;
-    for (int i = begin; i < begin + count; ++i) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
         if (Alpha && (i & 3) == 3) continue;
         if constexpr (std::is_same_v<T, Zel32fc>)
             dst[i] = divideComplex(divisor[i], dividend[i], warnings);
@@ -191,16 +194,6 @@ std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, int b
             dst[i] = divideComplex(divisor[i], dividend[i], scale, mode, warnings);
     }
     return warnings;
-}
-
-// Rows at least this long (in elements) are split between two threads: a
-// division costs more per element than the fork, the more so for complex
-// elements. 16u and 32fc follow their closest relatives (16s, 16sc).
-template <class T>
-constexpr int splitThreshold() {
-    if constexpr (std::is_same_v<T, Zel32f>) return 4096;
-    if constexpr (std::is_same_v<T, Zel16sc> || std::is_same_v<T, Zel32sc>) return 256;
-    return 1024;
 }
 
 // Results larger than this many bytes are stored past the caches (where a
@@ -217,34 +210,63 @@ auto rowKernel() {
         return &divideComplexRow<T, Alpha>;
 }
 
+// Weight of the work per byte for the fork rule (parallel.h).
+template <class T>
+constexpr int forkCost() {
+    if constexpr (std::is_same_v<T, Zel32f>) return kCostWiden;  // IEEE division, near memory speed
+    if constexpr (std::is_same_v<T, Zel32fc>) return kCostComplexDivide;
+    if constexpr (!kDividesInFloat<T>) return kCostExactDivide;  // 16sc, 32sc
+    return kCostDivide;
+}
+
+// Pieces of a long row start on multiples of this many elements: whole
+// pixels of every layout, AC4 alpha at the same place in each piece.
+constexpr std::ptrdiff_t kGrain = 64;
+
 }  // namespace
 
 template <class T, Layout L>
-std::int64_t divideImage(const T* divisor, int divisorStep, const T* dividend, int dividendStep, T* dst,
-                         int dstStep, ZeliSize roi, int mode, int scale) {
+std::int64_t divideImage(Divisor<T> divisor, const T* dividend, int dividendStep, T* dst, int dstStep,
+                         ZeliSize roi, int mode, int scale) {
     constexpr int C = kChannels<L>;
-    const Rows work =
-        collapseRows(roi, std::int64_t{roi.width} * C * sizeof(T), {divisorStep, dividendStep, dstStep});
+    constexpr bool kAlpha = L == Layout::AC4;
+    const std::int64_t rowBytes = std::int64_t{roi.width} * C * sizeof(T);
+    const Rows work = divisor.pattern ? collapseRows(roi, rowBytes, {dividendStep, dstStep})
+                                      : collapseRows(roi, rowBytes, {divisor.step, dividendStep, dstStep});
     const std::ptrdiff_t length = work.width * C;
-    const auto row = rowKernel<T, L == Layout::AC4>();
+    const auto row = rowKernel<T, kAlpha>();
     const int s = bandScale<T>(scale);
-    const bool stream = std::int64_t{roi.width} * roi.height * C * sizeof(T) > kStreamBytes;
-    const int team = teamSize(std::int64_t{roi.width} * roi.height * C * sizeof(T) * 3, kCostDivide,
-                              pieceCount(work.height, length, 64));
+    const std::int64_t imageBytes = rowBytes * roi.height;
+    const bool stream = imageBytes > kStreamBytes;
+    const int team = teamSize(imageBytes * (divisor.pattern ? 2 : 3), forkCost<T>(),
+                              pieceCount(work.height, length, kGrain));
     std::atomic<std::int64_t> warnings{0};
-    forEachPiece(work.height, length, 64, team, [&](std::ptrdiff_t y, std::ptrdiff_t begin, std::ptrdiff_t end) {
-        const T* a = rowAt(divisor, divisorStep, y);
+    forEachPiece(work.height, length, kGrain, team, [&](std::ptrdiff_t y, std::ptrdiff_t begin, std::ptrdiff_t end) {
+        // The last alpha element of a row is not read: a page the caller
+        // may not read can follow it.
+        if (kAlpha && end == length) --end;
         const T* b = rowAt(dividend, dividendStep, y);
         T* out = rowAt(dst, dstStep, y);
-        const std::int64_t met = row(a, b, out, begin, end - begin, mode, s, stream);
+        std::int64_t met = 0;
+        if (divisor.pattern) {
+            // Runs that end at the pattern's end; each starts on a pixel.
+            for (std::ptrdiff_t x = begin; x < end;) {
+                const std::ptrdiff_t at = x % kDivisorPattern;
+                const std::ptrdiff_t run = std::min(end - x, kDivisorPattern - at);
+                met += row(divisor.base + at, b + x, out + x, run, mode, s, stream);
+                x += run;
+            }
+        } else {
+            const T* a = rowAt(divisor.base, divisor.step, y);
+            met = row(a + begin, b + begin, out + begin, end - begin, mode, s, stream);
+        }
         if (met != 0) warnings += met;
     });
     return warnings.load();
 }
 
-#define ZEL_DIVIDE_IMAGE(T, L)                                                                            \
-    template std::int64_t divideImage<T, Layout::L>(const T*, int, const T*, int, T*, int, ZeliSize, int, \
-                                                    int);
+#define ZEL_DIVIDE_IMAGE(T, L)                                                                       \
+    template std::int64_t divideImage<T, Layout::L>(Divisor<T>, const T*, int, T*, int, ZeliSize, int, int);
 #define ZEL_DIVIDE_IMAGE_3(T) ZEL_DIVIDE_IMAGE(T, C1) ZEL_DIVIDE_IMAGE(T, C3) ZEL_DIVIDE_IMAGE(T, AC4)
 #define ZEL_DIVIDE_IMAGE_4(T) ZEL_DIVIDE_IMAGE_3(T) ZEL_DIVIDE_IMAGE(T, C4)
 

@@ -8,21 +8,38 @@
 // and dividend imaginary part does not raise a warning here either. The
 // 32f members are MulC with the single-precision reciprocal 1 / c: the
 // results are x * (1 / c), which may differ from x / c in the last bit.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "arith/div_engine.h"
+#include "core/fpcontrol.h"
 #include "core/image.h"
-#include "core/memory.h"
 
 namespace zel::div {
 namespace {
 
+// Zero by its bits: a subnormal constant is not zero, even when the
+// caller's environment treats denormals as zero in comparisons.
+template <class P>
+bool isZeroPart(P v) {
+    if constexpr (std::is_floating_point_v<P>) {
+        std::uint32_t bits;
+        std::memcpy(&bits, &v, sizeof bits);
+        return (bits & 0x7FFFFFFFu) == 0;
+    } else {
+        return v == 0;
+    }
+}
+
 template <class T>
 bool isZero(const T& v) {
     if constexpr (std::is_arithmetic_v<T>)
-        return v == T(0);
+        return isZeroPart(v);
     else
-        return v.re == 0 && v.im == 0;
+        return isZeroPart(v.re) && isZeroPart(v.im);
 }
 
 // x * (1 / c) per channel, through the MulC member of the same layout.
@@ -58,14 +75,26 @@ ZelStatus divideByConstant(const T* src, int srcStep, const T* value, T* dst, in
                            .that(!zeroConstant, zelStatusDivByZero))
         return st;
     if constexpr (std::is_same_v<T, Zel32f>) {
+        // The reciprocal too is rounded to nearest, whatever the caller's mode.
+        StandardFpEnvironment environment;
         return multiplyByReciprocal<L, InPlace>(src, srcStep, value, dst, dstStep, roi);
     } else {
-        // One divisor row holding the constant serves every row (step 0).
-        const std::size_t length = std::size_t(roi.width) * C;
-        Buffer<T> divisor = allocBuffer<T>(length);
-        if (!divisor) return zelStatusNoMemory;
-        for (std::size_t i = 0; i < length; ++i) divisor[i] = value[i % C < kComputed<L> ? i % C : 0];
-        divideImage<T, L>(divisor.get(), 0, src, srcStep, dst, dstStep, roi, kNearestEven, scale);
+        // The constant per channel, repeated as far as a row needs it (the
+        // alpha of AC4 gets the first channel's, never used).
+        T pattern[kDivisorPattern];
+        const std::ptrdiff_t used = std::min<std::ptrdiff_t>(kDivisorPattern, std::ptrdiff_t{roi.width} * roi.height * C);
+        for (int c = 0; c < C; ++c) pattern[c] = value[c < kComputed<L> ? c : 0];
+        for (std::ptrdiff_t have = C; have < used; have *= 2)
+            std::memcpy(pattern + have, pattern, std::min(have, used - have) * sizeof(T));
+        const auto divide = [&] {
+            divideImage<T, L>(Divisor<T>{pattern, 0, true}, src, srcStep, dst, dstStep, roi, kNearestEven, scale);
+        };
+        if constexpr (kDividesInFloat<T>) {
+            StandardFpEnvironment environment;
+            divide();
+        } else {
+            divide();
+        }
     }
     return zelStatusOk;
 }

@@ -102,6 +102,15 @@ constexpr Band chooseBand(int s) {
     return -s >= kBoundShift<Op, T> ? Band::Bound : Band::Neg;
 }
 
+// Operations whose exact result needs no wider lane: saturating sums and
+// differences (s = 0) of the 8-bit and 16-bit types, and the halved
+// unsigned sums (s = 1). They run at the memory's pace.
+template <class Op, class B, Band Bd>
+inline constexpr bool kNativeLanes =
+    std::is_integral_v<B> && sizeof(B) <= 2 &&
+    ((Bd == Band::Plain && (std::is_same_v<Op, AddOp> || std::is_same_v<Op, SubOp>)) ||
+     (Bd == Band::One && std::is_same_v<Op, AddOp> && std::is_unsigned_v<B>));
+
 // ---- the scalar rule ----
 
 template <class Dst, class Wide>

@@ -44,10 +44,12 @@ constexpr int kMaxThreads = ZEL_MAX_THREADS;
 // Cost weights: time per byte touched, relative to a pass that only loads,
 // combines and stores (a copy, Add, Set). Measured on the kernels.
 enum ForkCost : int {
-    kCostMove = 1,         // copies, fills, sums, saturating arithmetic
-    kCostWiden = 2,        // widened integer arithmetic with scaling, products
-    kCostDivide = 6,       // 8-bit and 16-bit division in floating point
-    kCostComplexDivide = 24,  // complex division, scalar
+    kCostMove = 1,            // copies, fills, sums, saturating arithmetic, 32f sums
+    kCostWiden = 2,           // widened integer arithmetic with scaling, products, 32f division
+    kCostDivide = 6,          // 8-bit and 16-bit division in floating point
+    kCostComplexDivide = 24,  // 32fc division, scalar
+    kCostExact = 48,          // 32sc arithmetic: scalar, in 128-bit integers
+    kCostExactDivide = 160,   // 16sc and 32sc division: 128-bit integer quotients
 };
 
 // Weighted bytes each thread of a team must receive: about 100 us of a

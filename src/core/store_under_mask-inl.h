@@ -1,5 +1,6 @@
 // StoreUnderMask: writes the lanes of v selected by m to p and nothing
-// else. Per-target header (include it after hwy/highway.h inside
+// else; LoadFirst: reads the first elements at p and nothing after them.
+// Per-target header (include it after hwy/highway.h inside
 // HWY_BEFORE_NAMESPACE, like Highway's own -inl files).
 //
 // The bytes of unselected lanes are neither read nor written: they may
@@ -16,6 +17,7 @@
 
 #include <hwy/highway.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -23,18 +25,23 @@ HWY_BEFORE_NAMESPACE();
 namespace zel {
 namespace HWY_NAMESPACE {
 
+// Whether this target has masked loads and stores for lanes of T that
+// neither touch nor fault on the unselected lanes.
+template <class T>
+inline constexpr bool kNativeMaskedAccess =
+#if HWY_TARGET == HWY_AVX3
+    true;
+#elif HWY_TARGET == HWY_AVX2
+    sizeof(T) >= 4;
+#else
+    false;
+#endif
+
 template <class D, class V, class M>
 HWY_INLINE void StoreUnderMask(V v, M m, D d, hwy::HWY_NAMESPACE::TFromD<D>* p) {
     namespace hn = hwy::HWY_NAMESPACE;
     using T = hn::TFromD<D>;
-#if HWY_TARGET == HWY_AVX3
-    constexpr bool kNative = true;
-#elif HWY_TARGET == HWY_AVX2
-    constexpr bool kNative = sizeof(T) >= 4;
-#else
-    constexpr bool kNative = false;
-#endif
-    if constexpr (kNative) {
+    if constexpr (kNativeMaskedAccess<T>) {
         hn::BlendedStore(v, m, d, p);
     } else {
         // The selected lanes, found from the mask bits, are stored one at a
@@ -48,6 +55,24 @@ HWY_INLINE void StoreUnderMask(V v, M m, D d, hwy::HWY_NAMESPACE::TFromD<D>* p) 
             std::memcpy(p + i, lanes + i, sizeof(T));
             bits &= bits - 1;
         }
+    }
+}
+
+// The first `count` elements at p (fewer than the lanes of d), the other
+// lanes zero; no byte after them is read, so the elements may end right
+// before a page the caller cannot read. Without native masked loads the
+// elements are copied into a vector-sized buffer.
+template <class D>
+HWY_INLINE hwy::HWY_NAMESPACE::VFromD<D> LoadFirst(D d, const hwy::HWY_NAMESPACE::TFromD<D>* p,
+                                                   std::size_t count) {
+    namespace hn = hwy::HWY_NAMESPACE;
+    using T = hn::TFromD<D>;
+    if constexpr (kNativeMaskedAccess<T>) {
+        return hn::MaskedLoad(hn::FirstN(d, count), d, p);
+    } else {
+        HWY_ALIGN T lanes[hn::MaxLanes(d)] = {};
+        std::memcpy(lanes, p, count * sizeof(T));
+        return hn::Load(d, lanes);
     }
 }
 

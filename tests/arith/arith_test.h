@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -43,13 +44,17 @@ Part<T>* parts(T& v) {
 }
 
 // Random parts: zeros often, the extremes and their neighbours, small values
-// and values from the whole range; for floats signed zeros and tiny values.
+// and values from the whole range; for floats signed zeros, tiny and
+// subnormal values.
 template <class P>
 P samplePart(std::mt19937& rng) {
     using L = std::numeric_limits<P>;
     const unsigned kind = rng() % 10;
     if constexpr (std::is_floating_point_v<P>) {
         if (kind == 0) return rng() % 2 ? P(0) : -P(0);
+        // Subnormal values: their sums and products depend on flush-to-zero
+        // and denormals-are-zero.
+        if (kind == 2) return std::ldexp(std::uniform_real_distribution<P>(-1, 1)(rng), -128);
         const P range = kind == 1 ? P(1e-3) : P(1000);
         return std::uniform_real_distribution<P>(-range, range)(rng);
     } else {
@@ -279,6 +284,49 @@ struct Run {
     bool contiguous = false, lastDivisorOnly = false;
 };
 
+// The operands of one run: random images a and b (the first and second
+// source), the destination d, the constant per channel (never a zero
+// divisor), and which of them the member writes and starts from.
+template <class T>
+struct Operands {
+    Image<T> a, b, d;
+    T value[4];
+    bool isConst, inPlace;
+
+    Operands(const Member<T>& m, const Run& r)
+        : a(image(m, r, r.offset, 3 * sizeof(T) + 5)),
+          b(image(m, r, r.offset + sizeof(T), 3 * sizeof(T) + 7)),
+          d(m.inPlace ? Image<T>({1, 1}, 1) : image(m, r, r.offset, 3 * sizeof(T) + 9)),  // must stay untouched
+          isConst(m.isConst),
+          inPlace(m.inPlace) {
+        std::mt19937 rng(r.seed);
+        const ZeliSize roi = r.roi;
+        a.fill([&](int x, int y, int) {
+            T one{};
+            parts(one)[0] = x < roi.width - 1 || y < roi.height - 1;
+            return r.lastDivisorOnly ? one : sample<T>(rng);
+        });
+        b.fill([&](int, int, int) { return sample<T>(rng); });
+        const bool division = m.op == Op::Div || m.op == Op::DivRound;
+        for (T& v : value) {
+            do v = sample<T>(rng);
+            while (division && warns(v, v, 0));  // DivC rejects a zero constant
+        }
+    }
+    Image<T>& target() { return inPlace ? (isConst ? a : b) : d; }
+    // The member on these operands.
+    ZelStatus run(const Member<T>& m, const Run& r) {
+        const int mode = m.op == Op::DivRound ? r.mode : 1;
+        Image<T>& t = target();
+        return m.call(a.roi(), a.step(), b.roi(), b.step(), t.roi(), t.step(), r.roi, mode, r.scale, value);
+    }
+
+private:
+    static Image<T> image(const Member<T>& m, const Run& r, int offset, int guard) {
+        return Image<T>(r.roi, m.channels, m.computed, offset, r.contiguous ? 0 : guard, r.seed + guard);
+    }
+};
+
 // Runs the member on fresh random images and checks every computed element,
 // the status (the division warning), and that guards, padding, AC4 alpha and
 // the operands it does not write keep their bytes. The in-place forms are
@@ -290,38 +338,21 @@ void checkMember(const Member<T>& m, const Run& r) {
     const bool division = m.op == Op::Div || m.op == Op::DivRound;
     SCOPED_TRACE(testing::Message() << m.name << " " << roi.width << "x" << roi.height << " offset " << r.offset
                                     << " scale " << s << " mode " << mode << (r.contiguous ? " contiguous" : ""));
-    std::mt19937 rng(r.seed);
-    const auto image = [&](int offset, int guard) {
-        return Image<T>(roi, m.channels, m.computed, offset, r.contiguous ? 0 : guard, r.seed + guard);
-    };
-    Image<T> a = image(r.offset, 3 * sizeof(T) + 5), b = image(r.offset + sizeof(T), 3 * sizeof(T) + 7);
-    Image<T> d = m.inPlace ? Image<T>({1, 1}, 1) : image(r.offset, 3 * sizeof(T) + 9);  // must stay untouched
-    a.fill([&](int x, int y, int) {
-        T one{};
-        parts(one)[0] = x < roi.width - 1 || y < roi.height - 1;
-        return r.lastDivisorOnly ? one : sample<T>(rng);
-    });
-    b.fill([&](int, int, int) { return sample<T>(rng); });
-    T value[4];
-    for (T& v : value) {
-        do v = sample<T>(rng);
-        while (division && warns(v, v, 0));  // DivC rejects a zero constant
-    }
-    const Image<T> start = m.isConst ? a : b;
-    Image<T>& target = m.inPlace ? (m.isConst ? a : b) : d;
-    const ZelStatus status =
-        m.call(a.roi(), a.step(), b.roi(), b.step(), target.roi(), target.step(), roi, mode, s, value);
+    Operands<T> o(m, r);
+    const Image<T> start = m.isConst ? o.a : o.b;
+    const ZelStatus status = o.run(m, r);
+    const Image<T>& target = o.target();
     bool warn = false;
     for (int y = 0; y < roi.height; ++y)
         for (int x = 0; x < roi.width; ++x)
             for (int c = 0; c < m.computed; ++c) {
-                const T p = start.at(x, y, c), q = m.isConst ? value[c] : a.at(x, y, c);
+                const T p = start.at(x, y, c), q = m.isConst ? o.value[c] : o.a.at(x, y, c);
                 warn |= division && !m.isConst && warns(q, p, s);
                 ASSERT_TRUE(same(target.at(x, y, c), expected(m.op, m.isConst, p, q, s, mode)))
                     << "at " << x << "," << y << " channel " << c << " from " << show(p) << " and " << show(q);
             }
     EXPECT_EQ(status, warn ? zelStatusWarnDivByZero : zelStatusOk);
-    for (const Image<T>* image : {&a, &b, &d})
+    for (const Image<T>* image : {&o.a, &o.b, &o.d})
         EXPECT_TRUE(image == &target ? image->outsideUnchanged() : testing::AssertionResult(image->unchanged()));
 }
 

@@ -1,8 +1,9 @@
 // Every arithmetic member against the rules: odd sizes, unaligned ROIs inside
 // guarded buffers, every SIMD target, one and four threads, in place and out
 // of place; long rows with the types' extremes at scale factors that reach
-// every band; division rows around the length where they are split.
+// every band; long rows cut into pieces among threads.
 #include "arith/arith_test.h"
+#include "core/parallel.h"
 #include "harness/sweep.h"
 
 namespace zel::test {
@@ -68,30 +69,41 @@ TEST(ArithMembers, LargeSamplesWithExtremes) {
     checkSamples<Zel32sc>();
 }
 
-// Rows just below, at and above the length from which a division row is
-// split between two threads, and contiguous rows collapsed past it: the same
-// results and warning under 1 and 4 threads, also when the only zero divisor
-// is the last pixel's (in the second thread's part).
+// Rows long enough for the fork rule to give four threads a team: one long
+// row cut into pieces (contiguous rows run as one), and padded rows dealt
+// out whole. The same results and warning under 1 and 4 threads, also when
+// the only zero divisor is the last pixel's, in the last piece; constant
+// patterns and AC4 alpha stay in phase in every piece. `weight` is the
+// member's cost weight of the fork rule, `operands` the images it touches.
 template <class T>
-void checkSplit(const Member<T>& m, int threshold) {
-    const int w = threshold / m.channels;
+void checkPieces(const Member<T>& m, int weight, int operands) {
+    const std::int64_t pixelBytes = std::int64_t{m.channels} * sizeof(T) * operands;
+    const int width = int(3 * kForkBytesPerThread / weight / pixelBytes + 1);  // work for three threads
+    const bool divisorImage = (m.op == Op::Div || m.op == Op::DivRound) && !m.isConst;
     forEachConfig([&] {
         for (bool lastOnly : {false, true}) {
-            for (int width : {w - 1, w, w + 1})
-                checkMember(m, {{width, 1}, 0, 0, 1, std::uint32_t(width), false, lastOnly});
-            checkMember(m, {{w / 2 + 1, 3}, 0, 0, 1, 9, true, lastOnly});
+            if (lastOnly && !divisorImage) break;
+            checkMember(m, {{width, 1}, 0, 1, 1, std::uint32_t(width), false, lastOnly});
+            checkMember(m, {{width / 3 + 1, 3}, 0, 1, 1, 9, true, lastOnly});
+            checkMember(m, {{width / 8 + 1, 8}, int(sizeof(Part<T>)), 1, 1, 8, false, lastOnly});
+            if (testing::Test::HasFatalFailure()) return;
         }
     });
 }
 
-TEST(ArithMembers, DivisionRowsAroundTheSplitThreshold) {
-    checkSplit(ZT_MEMBER(zeliDiv_8u_C1RSfs, Div, 8u, C1, false, false), 1024);
-    checkSplit(ZT_MEMBER(zeliDiv_16u_C1RSfs, Div, 16u, C1, false, false), 1024);
-    checkSplit(ZT_MEMBER(zeliDiv_16s_C3RSfs, Div, 16s, C3, false, false), 1024);
-    checkSplit(ZT_MEMBER(zeliDiv_16sc_C1RSfs, Div, 16sc, C1, false, false), 256);
-    checkSplit(ZT_MEMBER(zeliDiv_32sc_AC4RSfs, Div, 32sc, AC4, false, false), 256);
-    checkSplit(ZT_MEMBER(zeliDiv_32f_C1R, Div, 32f, C1, false, false), 4096);
-    checkSplit(ZT_MEMBER(zeliDiv_32fc_C1R, Div, 32fc, C1, false, false), 1024);
+TEST(ArithMembers, LongRowsInPiecesAmongThreads) {
+    checkPieces(ZT_MEMBER(zeliDiv_8u_C1RSfs, Div, 8u, C1, false, false), kCostDivide, 3);
+    checkPieces(ZT_MEMBER(zeliDiv_Round_16u_AC4IRSfs, DivRound, 16u, AC4, false, true), kCostDivide, 3);
+    checkPieces(ZT_MEMBER(zeliDivC_16s_C3RSfs, Div, 16s, C3, true, false), kCostDivide, 2);
+    checkPieces(ZT_MEMBER(zeliDivC_8u_AC4IRSfs, Div, 8u, AC4, true, true), kCostDivide, 2);
+    checkPieces(ZT_MEMBER(zeliDiv_16sc_C1RSfs, Div, 16sc, C1, false, false), kCostExactDivide, 3);
+    checkPieces(ZT_MEMBER(zeliDiv_32sc_AC4RSfs, Div, 32sc, AC4, false, false), kCostExactDivide, 3);
+    checkPieces(ZT_MEMBER(zeliDiv_32f_C4R, Div, 32f, C4, false, false), kCostWiden, 3);
+    checkPieces(ZT_MEMBER(zeliDiv_32fc_AC4R, Div, 32fc, AC4, false, false), kCostComplexDivide, 3);
+    checkPieces(ZT_MEMBER(zeliMulC_32fc_AC4IR, Mul, 32fc, AC4, true, true), kCostWiden, 2);
+    checkPieces(ZT_MEMBER(zeliSub_8u_AC4RSfs, Sub, 8u, AC4, false, false), kCostWiden, 3);
+    checkPieces(ZT_MEMBER(zeliAddC_16u_C3RSfs, Add, 16u, C3, true, false), kCostMove, 2);
+    checkPieces(ZT_MEMBER(zeliMulC_32sc_C3IRSfs, Mul, 32sc, C3, true, true), kCostExact, 2);
 }
 
 // Results above the cache-bypass size take the streaming stores.
