@@ -151,7 +151,8 @@ void checkMaskedOff(const std::vector<Member<T>>& members) {
                 ASSERT_EQ(st, zelStatusOk);
                 std::vector<std::uint8_t> headsAfter;
                 for (int y = 0; y < roi.height; ++y) {
-                    ASSERT_EQ(std::memcmp(rowOf(y), want[y].data(), half * pixelBytes), 0) << "row " << y;
+                    ASSERT_TRUE(half == 0 || std::memcmp(rowOf(y), want[y].data(), half * pixelBytes) == 0)
+                        << "row " << y;
                     headsAfter.insert(headsAfter.end(), pages.page(2 * y), reinterpret_cast<std::uint8_t*>(rowOf(y)));
                 }
                 ASSERT_EQ(headsAfter, pageHeads) << "bytes before a row changed";
