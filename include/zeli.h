@@ -520,7 +520,11 @@ ZELAPI ZelStatus zeliSwapChannels_32f_C3C4R(const Zel32f* pSrc, int srcStep, Zel
    source size (the destination is roi.height wide, roi.width high). The
    in-place members (IR) accept square ROIs only: a non-square ROI gives
    zelStatusBadSize. Checks: null pointers, then the size; steps are not
-   checked. */
+   checked. An out-of-place member (R) called with pSrc == pDst transposes
+   in place when roi is square and srcStep == dstStep; any other call with
+   pSrc == pDst returns zelStatusBadArgument (after the null and size
+   checks) and writes nothing. Other overlaps of source and destination are
+   not supported. */
 ZELAPI ZelStatus zeliTranspose_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
 ZELAPI ZelStatus zeliTranspose_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
 ZELAPI ZelStatus zeliTranspose_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);

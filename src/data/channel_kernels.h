@@ -33,16 +33,20 @@ struct ChannelOrder {
 };
 
 // dst pixel channel k = source channel order.from[k] (or kept, or filled),
-// for SC-channel source pixels and DC-channel destination pixels. `partial`
-// says the pointers address one channel inside wider pixels: the last
-// pixel of a row is then not complete in memory and is handled alone.
-// src may equal dst (in-place shuffles).
+// for SC-channel source pixels and DC-channel destination pixels. Kept
+// channels are neither read nor written, and no source channel after the
+// last one an order entry names is read in the last pixel of a row (AC4
+// alpha). `partial` says the pointers address one channel inside wider
+// pixels: the last pixel of a row is then not complete in memory and is
+// handled alone. src may equal dst (in-place shuffles).
 template <class B, int SC, int DC, class Order>
 void shuffleImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
                   const ChannelOrder& order, bool partial);
 
 // Masked copy (src) or fill (value, C elements): where the mask byte is
-// non-zero the first W of the C channels take the source's values.
+// non-zero the first W of the C channels take the source's values. No other
+// destination byte is stored to and the destination is never read; a
+// source's channels from W on are not read in the last pixel of a row.
 template <class B, int C, int W>
 void maskedCopyImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,
                      const Zel8u* mask, int maskStep);

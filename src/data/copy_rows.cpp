@@ -30,7 +30,7 @@ void StreamCopyRow(const std::uint8_t* HWY_RESTRICT src, std::uint8_t* HWY_RESTR
     if (head > bytes) head = bytes;
     std::memcpy(dst, src, head);
     std::size_t i = head;
-    for (; i + 4 * lanes <= bytes; i += 4 * lanes) {
+    for (; bytes - i >= 4 * lanes; i += 4 * lanes) {
         const auto v0 = hn::LoadU(d, src + i);
         const auto v1 = hn::LoadU(d, src + i + lanes);
         const auto v2 = hn::LoadU(d, src + i + 2 * lanes);
@@ -40,7 +40,7 @@ void StreamCopyRow(const std::uint8_t* HWY_RESTRICT src, std::uint8_t* HWY_RESTR
         hn::Stream(v2, d, dst + i + 2 * lanes);
         hn::Stream(v3, d, dst + i + 3 * lanes);
     }
-    for (; i + lanes <= bytes; i += lanes) hn::Stream(hn::LoadU(d, src + i), d, dst + i);
+    for (; bytes - i >= lanes; i += lanes) hn::Stream(hn::LoadU(d, src + i), d, dst + i);
     std::memcpy(dst + i, src + i, bytes - i);
 }
 
@@ -57,7 +57,7 @@ HWY_AFTER_NAMESPACE();
 
 namespace zel {
 
-CopyPlan planCopy(std::int64_t rowBytes, int height, int srcStep, int dstStep, int maxCacheBytes) {
+CopyPlan planCopy(std::int64_t rowBytes, std::ptrdiff_t height, int srcStep, int dstStep, int maxCacheBytes) {
     const std::int64_t total = rowBytes * height;
     const bool contiguous = height > 1 && srcStep == rowBytes && dstStep == rowBytes;
     if (contiguous && total > INT_MAX) return {rowBytes, height, true};
@@ -77,10 +77,11 @@ void copyRows(const void* src, int srcStep, void* dst, int dstStep, const CopyPl
     const auto bytes = static_cast<std::size_t>(plan.rowBytes);
     if (plan.stream) {
         const auto row = ZEL_DISPATCH(StreamCopyRow);
-        for (int y = 0; y < plan.height; ++y) row(rowAt(from, srcStep, y), rowAt(to, dstStep, y), bytes);
+        for (std::ptrdiff_t y = 0; y < plan.height; ++y) row(rowAt(from, srcStep, y), rowAt(to, dstStep, y), bytes);
         hwy::FlushStream();
     } else {
-        for (int y = 0; y < plan.height; ++y) std::memcpy(rowAt(to, dstStep, y), rowAt(from, srcStep, y), bytes);
+        for (std::ptrdiff_t y = 0; y < plan.height; ++y)
+            std::memcpy(rowAt(to, dstStep, y), rowAt(from, srcStep, y), bytes);
     }
 }
 

@@ -6,6 +6,7 @@
 // out a plan; the result is the same bytes whichever plan runs.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "zeli.h"
@@ -18,14 +19,14 @@ constexpr std::int64_t kCopyStreamBytes = 2097152;
 
 struct CopyPlan {
     std::int64_t rowBytes;  // bytes per row after collapsing
-    int height;             // rows after collapsing
+    std::ptrdiff_t height;  // rows after collapsing
     bool stream;            // non-temporal stores
 };
 
 // maxCacheBytes is the largest cache's size, 0 when unknown (never stream).
 // Contiguous rows whose total byte count does not fit an int are not
 // collapsed and always stream.
-CopyPlan planCopy(std::int64_t rowBytes, int height, int srcStep, int dstStep, int maxCacheBytes);
+CopyPlan planCopy(std::int64_t rowBytes, std::ptrdiff_t height, int srcStep, int dstStep, int maxCacheBytes);
 
 // zelGetMaxCacheSizeB's answer, 0 when it has none.
 int largestCacheBytes();

@@ -2,20 +2,24 @@
 //
 // The value is replicated into a pattern of whole pixels as long as
 // `channels` vectors, so every vector store begins on a pixel boundary;
-// AC4 stores are masked so the alpha channel is never written. Large fills
-// use non-temporal stores. A channel of interest (CR) is filled the same
-// way from its own address, as channel 0 of pixels that start there; the
-// last pixel of a row is written alone since its other channels may end
-// the caller's image. Masked fills are channel moves (channel_kernels).
+// AC4 stores leave the alpha channel out (it is neither read nor written).
+// Large fills use non-temporal stores. A channel of interest (CR) is filled
+// the same way from its own address, as channel 0 of pixels that start
+// there; the last pixel of a row is written alone since its other channels
+// may end the caller's image. Masked fills are channel moves
+// (channel_kernels). Counts are 64-bit: contiguous rows collapse into one
+// row of more than 2^31 elements.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "data/set.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
 #include "core/store_under_mask-inl.h"
+#include "data/pixel_stores-inl.h"
 
 #include <hwy/cache_control.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
@@ -25,17 +29,21 @@ namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
 // Writes `pixels` pixels of C channels, of which the first `Written` take
-// value[0..Written-1] and the others keep their contents. With `stream` the
+// value[0..Written-1] and the others are left alone. With `stream` the
 // vector stores bypass the caches once the destination is vector-aligned
 // at a pixel boundary (an element-misaligned row takes ordinary stores).
 template <class T, int C, int Written>
-void FillRow(T* HWY_RESTRICT dst, int pixels, const T* HWY_RESTRICT value, bool stream) {
+void FillRow(T* HWY_RESTRICT dst, std::ptrdiff_t pixels, const T* HWY_RESTRICT value, bool stream) {
     const hn::ScalableTag<T> d;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    int x = 0;
-    auto fillPixel = [&](int i) {
-        for (int c = 0; c < Written; ++c) dst[i * C + c] = value[c];
-    };
+    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+    std::ptrdiff_t x = 0;
+    auto fillPixel = [&](std::ptrdiff_t i) { std::memcpy(dst + i * C, value, Written * sizeof(T)); };
+    if constexpr (Written < C && !kNativeMaskedAccess<T>) {
+        // Without masked stores the vector loop would store lane by lane;
+        // a pixel at a time is fewer stores.
+        for (; x < pixels; ++x) fillPixel(x);
+        return;
+    }
     if (stream) {
         const auto misaligned = [&] {
             return reinterpret_cast<std::uintptr_t>(dst + x * C) % (lanes * sizeof(T)) != 0;
@@ -46,11 +54,11 @@ void FillRow(T* HWY_RESTRICT dst, int pixels, const T* HWY_RESTRICT value, bool 
     // C vectors hold `lanes` whole pixels.
     HWY_ALIGN T pattern[C * hn::MaxLanes(d)];
     HWY_ALIGN T written[C * hn::MaxLanes(d)];
-    for (int i = 0; i < C * lanes; ++i) {
+    for (int i = 0; i < C * int(lanes); ++i) {
         pattern[i] = value[i % C];
         written[i] = i % C < Written ? T(~T(0)) : T(0);
     }
-    for (; x + lanes <= pixels; x += lanes) {
+    for (; pixels - x >= lanes; x += lanes) {
         T* out = dst + x * C;
         for (int v = 0; v < C; ++v) {
             const auto p = hn::Load(d, pattern + v * lanes);
@@ -107,7 +115,7 @@ ZelStatus setImage(const T* value, T* pDst, int dstStep, ZeliSize roi) {
     const Rows rows = L == Layout::AC4 ? rowsOf(roi) : collapseRows(roi, rowBytes, {dstStep});
     const auto fillRow = ZEL_DISPATCH(FillRow<B, C, kComputed<L>>);
     B* dst = reinterpret_cast<B*>(pDst);
-    for (int y = 0; y < rows.height; ++y) fillRow(rowAt(dst, dstStep, y), rows.width, pixel, stream);
+    for (std::ptrdiff_t y = 0; y < rows.height; ++y) fillRow(rowAt(dst, dstStep, y), rows.width, pixel, stream);
     return zelStatusOk;
 }
 
@@ -131,10 +139,11 @@ ZelStatus setChannel(T value, T* pDst, int dstStep, ZeliSize roi) {
     std::memcpy(pixel, &value, sizeof(T));
     const auto fillRow = ZEL_DISPATCH(FillRow<B, C, 1>);
     B* dst = reinterpret_cast<B*>(pDst);
-    for (int y = 0; y < roi.height; ++y) {
+    const std::ptrdiff_t last = roi.width - 1;
+    for (std::ptrdiff_t y = 0; y < roi.height; ++y) {
         B* row = rowAt(dst, dstStep, y);
-        fillRow(row, roi.width - 1, pixel, false);
-        row[(roi.width - 1) * C] = pixel[0];
+        fillRow(row, last, pixel, false);
+        row[last * C] = pixel[0];
     }
     return zelStatusOk;
 }

@@ -9,8 +9,12 @@
 // rows, each tile above the diagonal exchanged with its mirror. Wider
 // pixels, and the ragged edges, move pixel by pixel, four destination rows
 // at a time, which keeps the stores in order without tiles.
+// Indices and counts are 64-bit, so the loops end cleanly at rows or
+// columns of INT_MAX pixels.
 // Checks: null pointers, then the ROI size (in place: also a square ROI);
-// steps are not checked.
+// steps are not checked. An out-of-place call whose source and destination
+// are the same pixels runs in place when that is a transposition of a
+// square with one step, and is refused otherwise.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "data/transpose.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
@@ -29,12 +33,12 @@ namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
 template <std::size_t N>
-HWY_INLINE std::uint8_t* pixelAt(std::uint8_t* base, int step, int y, int x) {
-    return rowAt(base, step, y) + std::ptrdiff_t{x} * N;
+HWY_INLINE std::uint8_t* pixelAt(std::uint8_t* base, int step, std::ptrdiff_t y, std::ptrdiff_t x) {
+    return rowAt(base, step, y) + x * std::ptrdiff_t{N};
 }
 template <std::size_t N>
-HWY_INLINE const std::uint8_t* pixelAt(const std::uint8_t* base, int step, int y, int x) {
-    return rowAt(base, step, y) + std::ptrdiff_t{x} * N;
+HWY_INLINE const std::uint8_t* pixelAt(const std::uint8_t* base, int step, std::ptrdiff_t y, std::ptrdiff_t x) {
+    return rowAt(base, step, y) + x * std::ptrdiff_t{N};
 }
 
 // Register blocks exist for pixels of one vector lane.
@@ -102,8 +106,8 @@ HWY_INLINE void TransposeRegisters(D d, V* rows) {
 
 // dst block at (dy, dx) = transposed src block at (sy, sx); both full.
 template <std::size_t N, class Src, class Dst>
-HWY_INLINE void TransposeRegisterBlock(Src* src, int srcStep, int sy, int sx, Dst* dst, int dstStep,
-                                       int dy, int dx) {
+HWY_INLINE void TransposeRegisterBlock(Src* src, int srcStep, std::ptrdiff_t sy, std::ptrdiff_t sx, Dst* dst,
+                                       int dstStep, std::ptrdiff_t dy, std::ptrdiff_t dx) {
     using U = Lane<N>;
     const BlockTag<N> d;
     constexpr int K = kBlock<N>;
@@ -118,39 +122,41 @@ HWY_INLINE void TransposeRegisterBlock(Src* src, int srcStep, int sy, int sx, Ds
 // Pixel by pixel, four destination rows at a time: each source row gives
 // four adjacent pixels and the destination rows fill in order.
 template <std::size_t N>
-void TransposeByPixels(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int rows,
-                       int cols) {
-    int c = 0;
-    for (; c + 4 <= cols; c += 4) {
+void TransposeByPixels(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, std::ptrdiff_t rows,
+                       std::ptrdiff_t cols) {
+    constexpr std::ptrdiff_t n = N;
+    std::ptrdiff_t c = 0;
+    for (; cols - c >= 4; c += 4) {
         std::uint8_t* d0 = rowAt(dst, dstStep, c);
         std::uint8_t* d1 = rowAt(dst, dstStep, c + 1);
         std::uint8_t* d2 = rowAt(dst, dstStep, c + 2);
         std::uint8_t* d3 = rowAt(dst, dstStep, c + 3);
-        const std::uint8_t* s = src + std::ptrdiff_t{c} * N;
+        const std::uint8_t* s = src + c * n;
         for (std::ptrdiff_t r = 0; r < rows; ++r, s += srcStep) {
-            std::memcpy(d0 + r * N, s, N);
-            std::memcpy(d1 + r * N, s + N, N);
-            std::memcpy(d2 + r * N, s + 2 * N, N);
-            std::memcpy(d3 + r * N, s + 3 * N, N);
+            std::memcpy(d0 + r * n, s, N);
+            std::memcpy(d1 + r * n, s + n, N);
+            std::memcpy(d2 + r * n, s + 2 * n, N);
+            std::memcpy(d3 + r * n, s + 3 * n, N);
         }
     }
     for (; c < cols; ++c) {
         std::uint8_t* d = rowAt(dst, dstStep, c);
-        const std::uint8_t* s = src + std::ptrdiff_t{c} * N;
-        for (std::ptrdiff_t r = 0; r < rows; ++r, s += srcStep) std::memcpy(d + r * N, s, N);
+        const std::uint8_t* s = src + c * n;
+        for (std::ptrdiff_t r = 0; r < rows; ++r, s += srcStep) std::memcpy(d + r * n, s, N);
     }
 }
 
 // Transposes the rows x cols pixels at src into dst (cols x rows).
 template <std::size_t N>
-void TransposeTile(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int rows,
-                   int cols) {
+void TransposeTile(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, std::ptrdiff_t rows,
+                   std::ptrdiff_t cols) {
     if constexpr (kInRegisters<N>) {
-        constexpr int K = kBlock<N>;
-        const int fullRows = rows / K * K;
-        const int fullCols = cols / K * K;
-        for (int r = 0; r < fullRows; r += K)
-            for (int c = 0; c < fullCols; c += K) TransposeRegisterBlock<N>(src, srcStep, r, c, dst, dstStep, c, r);
+        constexpr std::ptrdiff_t K = kBlock<N>;
+        const std::ptrdiff_t fullRows = rows / K * K;
+        const std::ptrdiff_t fullCols = cols / K * K;
+        for (std::ptrdiff_t r = 0; r < fullRows; r += K)
+            for (std::ptrdiff_t c = 0; c < fullCols; c += K)
+                TransposeRegisterBlock<N>(src, srcStep, r, c, dst, dstStep, c, r);
         // The ragged right columns, then the ragged bottom rows.
         TransposeByPixels<N>(pixelAt<N>(src, srcStep, 0, fullCols), srcStep, pixelAt<N>(dst, dstStep, fullCols, 0),
                              dstStep, fullRows, cols - fullCols);
@@ -162,15 +168,15 @@ void TransposeTile(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int 
 }
 
 template <std::size_t N>
-void TransposeImage(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, int width,
-                    int height) {
+void TransposeImage(const std::uint8_t* src, int srcStep, std::uint8_t* dst, int dstStep, std::ptrdiff_t width,
+                    std::ptrdiff_t height) {
     if constexpr (!kInRegisters<N>) {
         TransposeByPixels<N>(src, srcStep, dst, dstStep, height, width);
         return;
     }
-    constexpr int kTile = 64;
-    for (int ty = 0; ty < height; ty += kTile)
-        for (int tx = 0; tx < width; tx += kTile)
+    constexpr std::ptrdiff_t kTile = 64;
+    for (std::ptrdiff_t ty = 0; ty < height; ty += kTile)
+        for (std::ptrdiff_t tx = 0; tx < width; tx += kTile)
             TransposeTile<N>(pixelAt<N>(src, srcStep, ty, tx), srcStep, pixelAt<N>(dst, dstStep, tx, ty),
                              dstStep, std::min(kTile, height - ty), std::min(kTile, width - tx));
 }
@@ -186,8 +192,8 @@ HWY_INLINE void swapPixels(std::uint8_t* a, std::uint8_t* b) {
 // Exchanges pixel (r, c) with (c, r) for every r < c inside the register
 // block pair at rows bi.. and columns bj.. (bi <= bj, multiples of K).
 template <std::size_t N>
-void TransposeBlockPair(std::uint8_t* p, int step, int n, int bi, int bj) {
-    constexpr int K = kBlock<N>;
+void TransposeBlockPair(std::uint8_t* p, int step, std::ptrdiff_t n, std::ptrdiff_t bi, std::ptrdiff_t bj) {
+    constexpr std::ptrdiff_t K = kBlock<N>;
     if constexpr (kInRegisters<N>) {
         if (bi + K <= n && bj + K <= n) {
             if (bi == bj) {
@@ -197,41 +203,41 @@ void TransposeBlockPair(std::uint8_t* p, int step, int n, int bi, int bj) {
             using U = Lane<N>;
             const BlockTag<N> d;
             hn::Vec<decltype(d)> upper[K], lower[K];
-            for (int i = 0; i < K; ++i) {
+            for (std::ptrdiff_t i = 0; i < K; ++i) {
                 upper[i] = hn::LoadU(d, reinterpret_cast<const U*>(pixelAt<N>(p, step, bi + i, bj)));
                 lower[i] = hn::LoadU(d, reinterpret_cast<const U*>(pixelAt<N>(p, step, bj + i, bi)));
             }
             TransposeRegisters(d, upper);
             TransposeRegisters(d, lower);
-            for (int i = 0; i < K; ++i) {
+            for (std::ptrdiff_t i = 0; i < K; ++i) {
                 hn::StoreU(upper[i], d, reinterpret_cast<U*>(pixelAt<N>(p, step, bj + i, bi)));
                 hn::StoreU(lower[i], d, reinterpret_cast<U*>(pixelAt<N>(p, step, bi + i, bj)));
             }
             return;
         }
     }
-    for (int r = bi; r < std::min(bi + K, n); ++r)
-        for (int c = std::max(bj, r + 1); c < std::min(bj + K, n); ++c)
+    for (std::ptrdiff_t r = bi; r < std::min(bi + K, n); ++r)
+        for (std::ptrdiff_t c = std::max(bj, r + 1); c < std::min(bj + K, n); ++c)
             swapPixels<N>(pixelAt<N>(p, step, r, c), pixelAt<N>(p, step, c, r));
 }
 
 template <std::size_t N>
-void TransposeSquareInPlace(std::uint8_t* p, int step, int n) {
+void TransposeSquareInPlace(std::uint8_t* p, int step, std::ptrdiff_t n) {
     if constexpr (!kInRegisters<N>) {
         // Row r right of the diagonal against column r below it.
-        for (int r = 0; r + 1 < n; ++r) {
+        for (std::ptrdiff_t r = 0; r + 1 < n; ++r) {
             std::uint8_t* right = pixelAt<N>(p, step, r, r + 1);
             std::uint8_t* below = pixelAt<N>(p, step, r + 1, r);
-            for (int c = r + 1; c < n; ++c, right += N, below += step) swapPixels<N>(right, below);
+            for (std::ptrdiff_t c = r + 1; c < n; ++c, right += N, below += step) swapPixels<N>(right, below);
         }
         return;
     }
-    constexpr int K = kBlock<N>;
-    constexpr int kTile = N == 1 ? 32 : 16;  // a multiple of K
-    for (int ti = 0; ti < n; ti += kTile)
-        for (int tj = ti; tj < n; tj += kTile)
-            for (int bi = ti; bi < std::min(ti + kTile, n); bi += K)
-                for (int bj = std::max(tj, bi); bj < std::min(tj + kTile, n); bj += K)
+    constexpr std::ptrdiff_t K = kBlock<N>;
+    constexpr std::ptrdiff_t kTile = N == 1 ? 32 : 16;  // a multiple of K
+    for (std::ptrdiff_t ti = 0; ti < n; ti += kTile)
+        for (std::ptrdiff_t tj = ti; tj < n; tj += kTile)
+            for (std::ptrdiff_t bi = ti; bi < std::min(ti + kTile, n); bi += K)
+                for (std::ptrdiff_t bj = std::max(tj, bi); bj < std::min(tj + kTile, n); bj += K)
                     TransposeBlockPair<N>(p, step, n, bi, bj);
 }
 
@@ -248,8 +254,25 @@ namespace zel {
 namespace {
 
 template <class T, int C>
+void transposeSquare(T* pSrcDst, int srcDstStep, ZeliSize roi) {
+    constexpr std::size_t N = C * sizeof(T);
+    ZEL_DISPATCH(TransposeSquareInPlace<N>)(reinterpret_cast<std::uint8_t*>(pSrcDst), srcDstStep,
+                                            roi.width);
+}
+
+// The tiles read source pixels after writing destination pixels, so one
+// buffer as both is a transposition in place or nothing: a square with one
+// step, or zelStatusBadArgument.
+template <class T, int C>
 ZelStatus transpose(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize roi) {
-    if (ZelStatus st = Check().ptrs(pSrc, pDst).roi(roi)) return st;
+    const bool same = pSrc == pDst;
+    if (ZelStatus st = Check().ptrs(pSrc, pDst).roi(roi).that(
+            !same || (roi.width == roi.height && srcStep == dstStep), zelStatusBadArgument))
+        return st;
+    if (same) {
+        transposeSquare<T, C>(pDst, dstStep, roi);
+        return zelStatusOk;
+    }
     constexpr std::size_t N = C * sizeof(T);
     ZEL_DISPATCH(TransposeImage<N>)(reinterpret_cast<const std::uint8_t*>(pSrc), srcStep,
                                     reinterpret_cast<std::uint8_t*>(pDst), dstStep, roi.width, roi.height);
@@ -260,9 +283,7 @@ template <class T, int C>
 ZelStatus transposeInPlace(T* pSrcDst, int srcDstStep, ZeliSize roi) {
     if (ZelStatus st = Check().ptrs(pSrcDst).roi(roi).that(roi.width == roi.height, zelStatusBadSize))
         return st;
-    constexpr std::size_t N = C * sizeof(T);
-    ZEL_DISPATCH(TransposeSquareInPlace<N>)(reinterpret_cast<std::uint8_t*>(pSrcDst), srcDstStep,
-                                            roi.width);
+    transposeSquare<T, C>(pSrcDst, srcDstStep, roi);
     return zelStatusOk;
 }
 

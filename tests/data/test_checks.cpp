@@ -12,7 +12,8 @@ namespace {
 using zel::test::Image;
 
 // Copy, Dup, CopyManaged, Set and Transpose check pointers, then the size
-// (in place Transpose also that it is square), never the steps.
+// (in place Transpose also that it is square, out of place with one buffer
+// that it is a square with one step), never the steps.
 TEST(DataChecks, NullThenSizeButNoStep) {
     const ZeliSize roi{4, 4};
     Image<Zel16s> src(roi, 4), dst(roi, 4), plane0(roi, 1), plane2(roi, 1);
@@ -55,6 +56,13 @@ TEST(DataChecks, NullThenSizeButNoStep) {
             {"in place zero", zelStatusBadSize, [&] { return zeliTranspose_16s_C1IR(d, 0, {0, 0}); }},
             {"in place 4x3", zelStatusBadSize, [&] { return zeliTranspose_16s_C1IR(d, s, {4, 3}); }},
             {"in place 1x2", zelStatusBadSize, [&] { return zeliTranspose_16s_C3IR(d, s, {1, 2}); }},
+            // One buffer as source and destination: only a square with one
+            // step, after the null and size checks.
+            {"same buffer, size first", zelStatusBadSize, [&] { return zeliTranspose_16s_C1R(d, s, d, s, {0, 4}); }},
+            {"same buffer, not square", zelStatusBadArgument, [&] { return zeliTranspose_16s_C1R(d, s, d, s, {4, 3}); }},
+            {"same buffer, two steps", zelStatusBadArgument,
+             [&] { return zeliTranspose_16s_C3R(d, s, d, s + 6, {2, 2}); }},
+            {"same buffer, 1x2", zelStatusBadArgument, [&] { return zeliTranspose_16s_C4R(d, s, d, s, {1, 2}); }},
         },
         dst, plane0, plane2, mask);
     // Zero steps are accepted: one row is copied, one pixel filled or transposed.

@@ -13,35 +13,11 @@ namespace {
 
 using namespace zel::test;
 
-#define CHECK_COPY(T, t)                                                            \
-    checkMembers<T>({                                                               \
-        {"C1R", {1, 1, 0, 0, {0}}, run<T>(zeliCopy_##t##_C1R)},                     \
-        {"C3R", {3, 3, 0, 0, {0, 1, 2}}, run<T>(zeliCopy_##t##_C3R)},               \
-        {"C4R", {4, 4, 0, 0, {0, 1, 2, 3}}, run<T>(zeliCopy_##t##_C4R)},            \
-        {"AC4R", {4, 4, 0, 0, {0, 1, 2, K}}, run<T>(zeliCopy_##t##_AC4R)},          \
-        {"C1C3R", {1, 3, 0, 2, {K, K, 0}}, run<T>(zeliCopy_##t##_C1C3R)},           \
-        {"C1C4R", {1, 4, 0, 1, {K, 0, K, K}}, run<T>(zeliCopy_##t##_C1C4R)},        \
-        {"C3C1R", {3, 1, 2, 0, {2}}, run<T>(zeliCopy_##t##_C3C1R)},                 \
-        {"C4C1R", {4, 1, 3, 0, {3}}, run<T>(zeliCopy_##t##_C4C1R)},                 \
-        {"C3CR", {3, 3, 1, 1, {K, 1, K}}, run<T>(zeliCopy_##t##_C3CR)},             \
-        {"C4CR", {4, 4, 3, 3, {K, K, K, 3}}, run<T>(zeliCopy_##t##_C4CR)},          \
-        {"C3AC4R", {3, 4, 0, 0, {0, 1, 2, K}}, run<T>(zeliCopy_##t##_C3AC4R)},      \
-        {"AC4C3R", {4, 3, 0, 0, {0, 1, 2}}, run<T>(zeliCopy_##t##_AC4C3R)},         \
-        {"C1MR", {1, 1, 0, 0, {0}, {}, M}, run<T>(zeliCopy_##t##_C1MR)},            \
-        {"C3MR", {3, 3, 0, 0, {0, 1, 2}, {}, M}, run<T>(zeliCopy_##t##_C3MR)},      \
-        {"C4MR", {4, 4, 0, 0, {0, 1, 2, 3}, {}, M}, run<T>(zeliCopy_##t##_C4MR)},   \
-        {"AC4MR", {4, 4, 0, 0, {0, 1, 2, K}, {}, M}, run<T>(zeliCopy_##t##_AC4MR)}, \
-    });
+#define CHECK_COPY(T, t) checkMembers<T>(COPY_MEMBERS(T, t));
 
 TEST(Copy, EveryMemberMatchesTheReference) {
     FOR_EACH_TYPE(CHECK_COPY)
-    // Dup, and CopyManaged whatever the flags ask for.
-    std::vector<Member<Zel8u>> members = {{"Dup", {1, 3, 0, 0, {0, 0, 0}}, run<Zel8u>(zeliDup_8u_C1C3R)}};
-    for (int flags : {0, 1, 2, 3, -1})
-        members.push_back({"Managed " + std::to_string(flags), {1, 1, 0, 0, {0}}, [flags](const Args<Zel8u>& a) {
-                               return zeliCopyManaged_8u_C1R(a.src, a.srcStep, a.dst, a.dstStep, a.roi, flags);
-                           }});
-    checkMembers(members);
+    checkMembers(byteOnlyMembers());
 }
 
 // Planar members: interleaved channel k is plane k, there and back again.

@@ -20,7 +20,8 @@ template <class T>
 }
 
 // Odd sizes and sizes around the register blocks (16 / pixel size) and the
-// 64-pixel tiles; the squares in place too.
+// 64-pixel tiles; the squares in place too, by the in-place member and by
+// the out-of-place one given the same buffer twice.
 template <class T, int C>
 void checkTranspose(ZelStatus (*outOfPlace)(const T*, int, T*, int, ZeliSize),
                     ZelStatus (*inPlace)(T*, int, ZeliSize)) {
@@ -35,9 +36,11 @@ void checkTranspose(ZelStatus (*outOfPlace)(const T*, int, T*, int, ZeliSize),
             ASSERT_EQ(outOfPlace(src.roi(), src.step(), dst.roi(), dst.step(), roi), zelStatusOk);
             ASSERT_TRUE(isTransposeOf(dst, src, C));
             if (roi.width != roi.height) continue;
-            Image<T> img = src;
+            Image<T> img = src, same = src;
             ASSERT_EQ(inPlace(img.roi(), img.step(), roi), zelStatusOk);
             ASSERT_TRUE(isTransposeOf(img, src, C));
+            ASSERT_EQ(outOfPlace(same.roi(), same.step(), same.roi(), same.step(), roi), zelStatusOk);
+            ASSERT_TRUE(isTransposeOf(same, src, C));
         }
     });
 }
