@@ -82,7 +82,8 @@ ZelStatus zeroFill(T* dst, int step, ZeliSize roi) {
 // A row kernel: n elements of p and of q (or of the constant pattern at q),
 // results to dst; see BinaryRow.
 template <class B>
-using RowKernel = void (*)(const B* p, const B* q, bool qPattern, B* dst, std::ptrdiff_t n, int period,
+using RowKernel = void (*)(const B* p, std::ptrdiff_t pStep, const B* q, std::ptrdiff_t qStep, bool qPattern,
+                           B* dst, std::ptrdiff_t dstStep, std::ptrdiff_t n, std::ptrdiff_t rows, int period,
                            const BitsOf<B>* keep, const ScaleArgs& args);
 
 // Patterns are laid out for `period` vectors of up to this many lanes, so
@@ -118,22 +119,22 @@ template <class Op, class T>
 RowKernel<BaseOf<T>> rowKernel(Band band) {
     using B = BaseOf<T>;
     if constexpr (kScalarRow<Op, T>) {
-        if (band == Band::Zero) return &ComplexRow<Op, B, Band::Zero>;
-        return &ComplexRow<Op, B, Band::Plain>;  // applies the full rule per part
+        if (band == Band::Zero) return &ComplexRows<Op, B, Band::Zero>;
+        return &ComplexRows<Op, B, Band::Plain>;  // applies the full rule per part
     } else if constexpr (std::is_floating_point_v<B> || std::is_same_v<Op, MulScaleOp>) {
         (void)band;
-        return ZEL_DISPATCH(BinaryRow<KernelOp<Op, T>, B, Band::Plain>);
+        return ZEL_DISPATCH(BinaryRows<KernelOp<Op, T>, B, Band::Plain>);
     } else {
         using K = KernelOp<Op, T>;
         switch (band) {
-            case Band::Plain: return ZEL_DISPATCH(BinaryRow<K, B, Band::Plain>);
-            case Band::One: return ZEL_DISPATCH(BinaryRow<K, B, Band::One>);
-            case Band::Pos: return ZEL_DISPATCH(BinaryRow<K, B, Band::Pos>);
-            case Band::Neg: return ZEL_DISPATCH(BinaryRow<K, B, Band::Neg>);
-            case Band::Bound: return ZEL_DISPATCH(BinaryRow<K, B, Band::Bound>);
+            case Band::Plain: return ZEL_DISPATCH(BinaryRows<K, B, Band::Plain>);
+            case Band::One: return ZEL_DISPATCH(BinaryRows<K, B, Band::One>);
+            case Band::Pos: return ZEL_DISPATCH(BinaryRows<K, B, Band::Pos>);
+            case Band::Neg: return ZEL_DISPATCH(BinaryRows<K, B, Band::Neg>);
+            case Band::Bound: return ZEL_DISPATCH(BinaryRows<K, B, Band::Bound>);
             case Band::Zero: break;
         }
-        return ZEL_DISPATCH(BinaryRow<K, B, Band::Zero>);
+        return ZEL_DISPATCH(BinaryRows<K, B, Band::Zero>);
     }
 }
 
@@ -199,10 +200,11 @@ void computeRows(const T* p, int pStep, const T* q, int qStep, T* dst, int dstSt
     const int team = teamSize(touched, forkCost<Op, T>(band), pieceCount(rows.height, n, kGrain));
     const B* pBase = reinterpret_cast<const B*>(p);
     B* dBase = reinterpret_cast<B*>(dst);
-    forEachPiece(rows.height, n, kGrain, team, [&](std::ptrdiff_t y, std::ptrdiff_t begin, std::ptrdiff_t end) {
-        if (end == n) end -= kAlphaTail;
-        row(rowAt(pBase, pStep, y) + begin, isConst ? qBase : rowAt(qBase, qStep, y) + begin, isConst,
-            rowAt(dBase, dstStep, y) + begin, end - begin, kPeriod, keep, args);
+    forEachBlock(rows.height, n, kGrain, team, [&](const Block& b) {
+        const std::ptrdiff_t end = b.end == n ? n - kAlphaTail : b.end;
+        row(rowAt(pBase, pStep, b.y0) + b.begin, pStep, isConst ? qBase : rowAt(qBase, qStep, b.y0) + b.begin,
+            qStep, isConst, rowAt(dBase, dstStep, b.y0) + b.begin, dstStep, end - b.begin, b.y1 - b.y0, kPeriod,
+            keep, args);
     });
 }
 

@@ -29,6 +29,7 @@
 #include <type_traits>
 
 #include "arith/scale.h"
+#include "core/image.h"
 #include "core/pixel.h"
 #include "core/store_under_mask-inl.h"
 
@@ -162,8 +163,8 @@ HWY_INLINE V ScaleStep(DW dw, V v, const arith::ScaleArgs& a) {
 // like the constant pattern and marks the elements to leave alone; they
 // are neither stored nor part of the tail's loads beyond the row.
 template <class Op, class T, arith::Band B>
-void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::ptrdiff_t n, int period,
-               const BitsOf<T>* keep, const arith::ScaleArgs& args) {
+HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::ptrdiff_t n, int period,
+                          const BitsOf<T>* keep, const arith::ScaleArgs& args) {
     using W = WideLane<Op, T, B>;
     // Rows that only load, add and store run at the memory's pace, which
     // 256-bit vectors reach with less cost than 512-bit ones; the widened
@@ -225,6 +226,19 @@ void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::ptrdiff_t n, 
         if (keep != nullptr) selected = hn::And(selected, written(j));
         StoreUnderMask(hn::BitCast(du, r), selected, du, reinterpret_cast<U*>(dst + x));
     }
+}
+
+// `rows` rows of n elements: the arguments of BinaryRow for the first row,
+// and the steps in bytes to the next ones (a constant pattern q is the same
+// for every row). One call per block of rows keeps the set-up of the
+// vectors out of the row loop.
+template <class Op, class T, arith::Band B>
+void BinaryRows(const T* p, std::ptrdiff_t pStep, const T* q, std::ptrdiff_t qStep, bool qPattern, T* dst,
+                std::ptrdiff_t dstStep, std::ptrdiff_t n, std::ptrdiff_t rows, int period, const BitsOf<T>* keep,
+                const arith::ScaleArgs& args) {
+    for (std::ptrdiff_t y = 0; y < rows; ++y)
+        BinaryRow<Op, T, B>(byteOffset(p, pStep * y), qPattern ? q : byteOffset(q, qStep * y), qPattern,
+                            byteOffset(dst, dstStep * y), n, period, keep, args);
 }
 
 }  // namespace HWY_NAMESPACE

@@ -13,6 +13,7 @@
 #include <type_traits>
 
 #include "arith/scale.h"
+#include "core/image.h"
 #include "core/pixel.h"
 
 namespace zel::arith {
@@ -52,6 +53,16 @@ void ComplexRow(const B* p, const B* q, bool qPattern, B* dst, std::ptrdiff_t n,
         dst[i] = finish(re);
         dst[i + 1] = finish(im);
     }
+}
+
+// The row kernel's block form (see BinaryRows).
+template <class Op, class B, Band Bd>
+void ComplexRows(const B* p, std::ptrdiff_t pStep, const B* q, std::ptrdiff_t qStep, bool qPattern, B* dst,
+                 std::ptrdiff_t dstStep, std::ptrdiff_t n, std::ptrdiff_t rows, int period, const BitsOf<B>* keep,
+                 const ScaleArgs& args) {
+    for (std::ptrdiff_t y = 0; y < rows; ++y)
+        ComplexRow<Op, B, Bd>(byteOffset(p, pStep * y), qPattern ? q : byteOffset(q, qStep * y), qPattern,
+                              byteOffset(dst, dstStep * y), n, period, keep, args);
 }
 
 }  // namespace zel::arith

@@ -29,6 +29,7 @@
 #include <type_traits>
 
 #include "arith/div_rounding.h"
+#include "core/image.h"
 #include "core/store_under_mask-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -36,25 +37,30 @@ namespace zel {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
-// `count` elements of a row (or of a run within it) from the given
-// addresses, whose first element is a pixel's first channel; with `Alpha`
-// every fourth element (AC4 alpha) is neither read for the warning nor
-// written.
+// `count` elements of each of `rows` rows (or of runs within them) from the
+// given addresses, each row's first element a pixel's first channel; the
+// steps, in bytes, lead from one row to the next (a step of 0 reuses the
+// row). With `Alpha` every fourth element (AC4 alpha) is neither read for
+// the warning nor written. Row tails run as one partial vector that reads
+// and writes nothing past the row.
 template <class T, bool Alpha>
-std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, std::ptrdiff_t count, int mode,
-                          int scale, bool /*stream*/) {
+std::int64_t DivideIntRows(const T* divisor, std::ptrdiff_t divisorStep, const T* dividend,
+                           std::ptrdiff_t dividendStep, T* dst, std::ptrdiff_t dstStep, std::ptrdiff_t count,
+                           std::ptrdiff_t rows, int mode, int scale, bool /*stream*/) {
     using F = std::conditional_t<sizeof(T) == 1, float, double>;
+    using U = std::make_unsigned_t<T>;
     const hn::ScalableTag<F> df;
     const hn::RebindToUnsigned<decltype(df)> du;
+    const hn::RebindToSigned<decltype(df)> ds;
     const hn::Rebind<std::int32_t, decltype(df)> di;
     const hn::Rebind<T, decltype(df)> dt;
-    const hn::Rebind<std::make_unsigned_t<T>, decltype(df)> dtu;
+    const hn::Rebind<U, decltype(df)> dtu;
     const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(df));
-    const auto load = [&](const T* p) {
+    const auto widen = [&](hn::VFromD<decltype(dt)> v) {
         if constexpr (sizeof(T) == 1)
-            return hn::ConvertTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+            return hn::ConvertTo(df, hn::PromoteTo(di, v));
         else
-            return hn::PromoteTo(df, hn::PromoteTo(di, hn::LoadU(dt, p)));
+            return hn::PromoteTo(df, hn::PromoteTo(di, v));
     };
     // Adding 1.5 * 2^(p-1) to an integral value in T's range puts it, in
     // two's complement, into the low bits of the significand.
@@ -76,54 +82,78 @@ std::int64_t DivideIntRow(const T* divisor, const T* dividend, T* dst, std::ptrd
     const auto tieIfOdd = hn::Set(df, F(mode == div::kNearestEven ? 1 : 0));
     const auto tieAlways = hn::Set(df, F(mode == div::kHalfAway ? 1 : 0));
 
-    const hn::RebindToSigned<decltype(df)> ds;
-    auto zeroLanes = hn::Zero(ds);  // zero divisors per lane (a true mask is -1)
-    std::ptrdiff_t i = 0;
-    for (; count - i >= lanes; i += lanes) {
-        const auto a = load(divisor + i);
-        auto zero = hn::Eq(a, hn::Zero(df));
+    // The rounded quotients of one vector of elements.
+    const auto quotients = [&](hn::VFromD<decltype(df)> a, hn::VFromD<decltype(df)> b, hn::MFromD<decltype(df)> zero) {
         const auto scaled = scale == 0 ? a : hn::Mul(a, divisorScale);
-        auto x = hn::Div(load(dividend + i), hn::IfThenElse(zero, tiny, scaled));
+        auto x = hn::Div(b, hn::IfThenElse(zero, tiny, scaled));
         x = hn::Min(x, hi);
         if constexpr (std::is_signed_v<T>) x = hn::Max(x, lo);
-        hn::Vec<decltype(df)> q;
-        if (mode == div::kNearestEven) {
-            q = hn::Round(x);
-        } else {
-            const auto t = hn::Trunc(x);
-            const auto frac = hn::Abs(hn::Sub(x, t));
-            const auto odd = hn::Ne(hn::Trunc(hn::Mul(t, half)), hn::Mul(t, half));
-            const auto tie = hn::IfThenElse(odd, hn::Add(tieIfOdd, tieAlways), tieAlways);
-            const auto up =
-                hn::IfThenElse(hn::Gt(frac, half), aboveHalf, hn::IfThenElseZero(hn::Eq(frac, half), tie));
-            q = hn::Add(t, hn::CopySign(up, x));
-        }
-        const auto out = toT(q);
-        if constexpr (Alpha) {
-            // Vectors of two doubles (SSSE3) start at either half of a pixel.
-            const int phase = static_cast<int>(i & 3);
-            const auto keepT = hn::Ne(hn::And(hn::Iota(dtu, phase), hn::Set(dtu, 3)), hn::Set(dtu, 3));
-            const auto keepF =
-                hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, phase), hn::Set(du, 3)), hn::Set(du, 3)));
-            StoreUnderMask(hn::BitCast(dtu, out), keepT, dtu, reinterpret_cast<std::make_unsigned_t<T>*>(dst + i));
-            zero = hn::And(zero, keepF);
-        } else {
-            hn::StoreU(out, dt, dst + i);
-        }
+        if (mode == div::kNearestEven) return toT(hn::Round(x));
+        const auto t = hn::Trunc(x);
+        const auto frac = hn::Abs(hn::Sub(x, t));
+        const auto odd = hn::Ne(hn::Trunc(hn::Mul(t, half)), hn::Mul(t, half));
+        const auto tie = hn::IfThenElse(odd, hn::Add(tieIfOdd, tieAlways), tieAlways);
+        const auto up = hn::IfThenElse(hn::Gt(frac, half), aboveHalf, hn::IfThenElseZero(hn::Eq(frac, half), tie));
+        return toT(hn::Add(t, hn::CopySign(up, x)));
+    };
+    // The lanes of a vector starting at element i that belong to the result
+    // (vectors of two doubles start at either half of a pixel).
+    const auto colourT = [&](std::ptrdiff_t i) {
+        return hn::Ne(hn::And(hn::Iota(dtu, static_cast<int>(i & 3)), hn::Set(dtu, 3)), hn::Set(dtu, 3));
+    };
+    const auto colourF = [&](std::ptrdiff_t i) {
+        return hn::RebindMask(df, hn::Ne(hn::And(hn::Iota(du, static_cast<int>(i & 3)), hn::Set(du, 3)),
+                                         hn::Set(du, 3)));
+    };
+
+    std::int64_t zeros = 0;
+    auto zeroLanes = hn::Zero(ds);  // zero divisors per lane (a true mask is -1)
+    const auto countZeros = [&](hn::MFromD<decltype(df)> zero) {
         zeroLanes = hn::Sub(zeroLanes, hn::VecFromMask(ds, hn::RebindMask(ds, zero)));
+    };
+    for (std::ptrdiff_t y = 0; y < rows; ++y) {
+        const T* a = byteOffset(divisor, divisorStep * y);
+        const T* b = byteOffset(dividend, dividendStep * y);
+        T* out = byteOffset(dst, dstStep * y);
+        std::ptrdiff_t i = 0;
+        for (; count - i >= lanes; i += lanes) {
+            const auto va = widen(hn::LoadU(dt, a + i));
+            auto zero = hn::Eq(va, hn::Zero(df));
+            const auto q = quotients(va, widen(hn::LoadU(dt, b + i)), zero);
+            if constexpr (Alpha) {
+                StoreUnderMask(hn::BitCast(dtu, q), colourT(i), dtu, reinterpret_cast<U*>(out + i));
+                zero = hn::And(zero, colourF(i));
+            } else {
+                hn::StoreU(q, dt, out + i);
+            }
+            countZeros(zero);
+        }
+        if (i < count) {
+            const auto rest = static_cast<std::size_t>(count - i);
+            const auto va = widen(LoadFirst(dt, a + i, rest));
+            auto zero = hn::And(hn::Eq(va, hn::Zero(df)), hn::FirstN(df, rest));
+            const auto q = quotients(va, widen(LoadFirst(dt, b + i, rest)), zero);
+            auto written = hn::FirstN(dtu, rest);
+            if constexpr (Alpha) {
+                written = hn::And(written, colourT(i));
+                zero = hn::And(zero, colourF(i));
+            }
+            StoreUnderMask(hn::BitCast(dtu, q), written, dtu, reinterpret_cast<U*>(out + i));
+            countZeros(zero);
+        }
+        // Per row, so that no lane's count can overflow.
+        zeros += hn::GetLane(hn::SumOfLanes(ds, zeroLanes));
+        zeroLanes = hn::Zero(ds);
     }
-    std::int64_t zeros = hn::GetLane(hn::SumOfLanes(ds, zeroLanes));
-    for (; i < count; ++i)
-        if (!Alpha || (i & 3) != 3) dst[i] = div::divideReal(divisor[i], dividend[i], scale, mode, zeros);
     return zeros;
 }
 
 // IEEE single-precision division; zero divisors (either sign) are counted.
-// Same row contract as DivideIntRow. With `stream` (large images) the
-// stores bypass the caches once the destination is vector-aligned.
+// One row of the contract of DivideIntRows. With `stream` (large images)
+// the stores bypass the caches once the destination is vector-aligned.
 template <bool Alpha>
-std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst, std::ptrdiff_t count,
-                            int /*mode*/, int /*scale*/, bool stream) {
+HWY_INLINE std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* dst,
+                                       std::ptrdiff_t count, bool stream) {
     const hn::ScalableTag<float> df;
     const hn::RebindToSigned<decltype(df)> di;
     const hn::RebindToUnsigned<decltype(df)> du;
@@ -167,6 +197,17 @@ std::int64_t DivideFloatRow(const float* divisor, const float* dividend, float* 
     return zeros;
 }
 
+template <bool Alpha>
+std::int64_t DivideFloatRows(const float* divisor, std::ptrdiff_t divisorStep, const float* dividend,
+                             std::ptrdiff_t dividendStep, float* dst, std::ptrdiff_t dstStep, std::ptrdiff_t count,
+                             std::ptrdiff_t rows, int /*mode*/, int /*scale*/, bool stream) {
+    std::int64_t zeros = 0;
+    for (std::ptrdiff_t y = 0; y < rows; ++y)
+        zeros += DivideFloatRow<Alpha>(byteOffset(divisor, divisorStep * y), byteOffset(dividend, dividendStep * y),
+                                       byteOffset(dst, dstStep * y), count, stream);
+    return zeros;
+}
+
 }  // namespace HWY_NAMESPACE
 }  // namespace zel
 HWY_AFTER_NAMESPACE();
@@ -183,15 +224,21 @@ namespace {
 
 // Complex rows stay scalar: their 128-bit intermediates have no vector form.
 template <class T, bool Alpha>
-std::int64_t divideComplexRow(const T* divisor, const T* dividend, T* dst, std::ptrdiff_t count, int mode,
-                              int scale, bool /*stream*/) {
+std::int64_t divideComplexRows(const T* divisor, std::ptrdiff_t divisorStep, const T* dividend,
+                               std::ptrdiff_t dividendStep, T* dst, std::ptrdiff_t dstStep, std::ptrdiff_t count,
+                               std::ptrdiff_t rows, int mode, int scale, bool /*stream*/) {
     std::int64_t warnings = 0;
-    for (std::ptrdiff_t i = 0; i < count; ++i) {
-        if (Alpha && (i & 3) == 3) continue;
-        if constexpr (std::is_same_v<T, Zel32fc>)
-            dst[i] = divideComplex(divisor[i], dividend[i], warnings);
-        else
-            dst[i] = divideComplex(divisor[i], dividend[i], scale, mode, warnings);
+    for (std::ptrdiff_t y = 0; y < rows; ++y) {
+        const T* a = byteOffset(divisor, divisorStep * y);
+        const T* b = byteOffset(dividend, dividendStep * y);
+        T* out = byteOffset(dst, dstStep * y);
+        for (std::ptrdiff_t i = 0; i < count; ++i) {
+            if (Alpha && (i & 3) == 3) continue;
+            if constexpr (std::is_same_v<T, Zel32fc>)
+                out[i] = divideComplex(a[i], b[i], warnings);
+            else
+                out[i] = divideComplex(a[i], b[i], scale, mode, warnings);
+        }
     }
     return warnings;
 }
@@ -203,11 +250,11 @@ constexpr std::int64_t kStreamBytes = 4194304;
 template <class T, bool Alpha>
 auto rowKernel() {
     if constexpr (std::is_same_v<T, Zel32f>)
-        return ZEL_DISPATCH(DivideFloatRow<Alpha>);
+        return ZEL_DISPATCH(DivideFloatRows<Alpha>);
     else if constexpr (std::is_integral_v<T>)
-        return ZEL_DISPATCH(DivideIntRow<T, Alpha>);
+        return ZEL_DISPATCH(DivideIntRows<T, Alpha>);
     else
-        return &divideComplexRow<T, Alpha>;
+        return &divideComplexRows<T, Alpha>;
 }
 
 // Weight of the work per byte for the fork rule (parallel.h).
@@ -241,24 +288,33 @@ std::int64_t divideImage(Divisor<T> divisor, const T* dividend, int dividendStep
     const int team = teamSize(imageBytes * (divisor.pattern ? 2 : 3), forkCost<T>(),
                               pieceCount(work.height, length, kGrain));
     std::atomic<std::int64_t> warnings{0};
-    forEachPiece(work.height, length, kGrain, team, [&](std::ptrdiff_t y, std::ptrdiff_t begin, std::ptrdiff_t end) {
+    forEachBlock(work.height, length, kGrain, team, [&](const Block& block) {
         // The last alpha element of a row is not read: a page the caller
         // may not read can follow it.
-        if (kAlpha && end == length) --end;
-        const T* b = rowAt(dividend, dividendStep, y);
-        T* out = rowAt(dst, dstStep, y);
+        const std::ptrdiff_t begin = block.begin;
+        const std::ptrdiff_t end = kAlpha && block.end == length ? block.end - 1 : block.end;
+        const std::ptrdiff_t rows = block.y1 - block.y0;
+        const T* b = rowAt(dividend, dividendStep, block.y0) + begin;
+        T* out = rowAt(dst, dstStep, block.y0) + begin;
         std::int64_t met = 0;
-        if (divisor.pattern) {
-            // Runs that end at the pattern's end; each starts on a pixel.
-            for (std::ptrdiff_t x = begin; x < end;) {
-                const std::ptrdiff_t at = x % kDivisorPattern;
-                const std::ptrdiff_t run = std::min(end - x, kDivisorPattern - at);
-                met += row(divisor.base + at, b + x, out + x, run, mode, s, stream);
-                x += run;
-            }
+        if (!divisor.pattern) {
+            const T* a = rowAt(divisor.base, divisor.step, block.y0) + begin;
+            met = row(a, divisor.step, b, dividendStep, out, dstStep, end - begin, rows, mode, s, stream);
+        } else if (begin % kDivisorPattern + (end - begin) <= kDivisorPattern) {
+            // Rows within one period of the pattern: every row reuses it.
+            met = row(divisor.base + begin % kDivisorPattern, 0, b, dividendStep, out, dstStep, end - begin, rows,
+                      mode, s, stream);
         } else {
-            const T* a = rowAt(divisor.base, divisor.step, y);
-            met = row(a + begin, b + begin, out + begin, end - begin, mode, s, stream);
+            // Longer rows in runs that end at the pattern's end; each starts
+            // on a pixel.
+            for (std::ptrdiff_t y = 0; y < rows; ++y)
+                for (std::ptrdiff_t x = begin; x < end;) {
+                    const std::ptrdiff_t at = x % kDivisorPattern;
+                    const std::ptrdiff_t run = std::min(end - x, kDivisorPattern - at);
+                    met += row(divisor.base + at, 0, rowAt(b, dividendStep, y) + (x - begin), 0,
+                               rowAt(out, dstStep, y) + (x - begin), 0, run, 1, mode, s, stream);
+                    x += run;
+                }
         }
         if (met != 0) warnings += met;
     });

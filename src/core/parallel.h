@@ -52,10 +52,13 @@ enum ForkCost : int {
     kCostExactDivide = 160,   // 16sc and 32sc division: 128-bit integer quotients
 };
 
-// Weighted bytes each thread of a team must receive: about 100 us of a
-// single thread's work on a plain pass, well above the cost of waking a
-// sleeping team (5 to 10 us under OMP_WAIT_POLICY=passive).
-constexpr std::int64_t kForkBytesPerThread = std::int64_t{2} << 20;
+// Weighted bytes each thread of a team must receive: about 120 us of a
+// single thread's plain pass (10 ns per KiB in cache, more from memory).
+// A region of two threads costs about 7 us with spinning workers and 40 to
+// 60 us when they sleep (OMP_WAIT_POLICY=passive), twice that when the
+// caller then has to sleep until a late worker is done; at this share even
+// that costs less than the half of the work the second thread takes.
+constexpr std::int64_t kForkBytesPerThread = std::int64_t{12} << 20;
 
 // Makes every call fork as far as its pieces allow, whatever its size (the
 // tests' way to run team paths on small images); false restores the rule.
@@ -114,31 +117,46 @@ inline std::ptrdiff_t piecesPerRow(std::ptrdiff_t rows, std::ptrdiff_t width, st
     return std::max<std::ptrdiff_t>(1, std::min<std::ptrdiff_t>(team, grains));
 }
 
-// Calls body(y, begin, end) so that the calls cover elements [0, width) of
-// every row 0..rows-1 exactly once. With as many rows as threads the rows
-// are divided; with fewer, every row is cut into pieces that begin on a
-// multiple of `grain`.
+// A rectangle of the work: elements [begin, end) of rows [y0, y1).
+struct Block {
+    std::ptrdiff_t y0, y1, begin, end;
+};
+
+// Share i of `total` things dealt into `parts` shares as evenly as they go,
+// the first shares taking one more: the start of share i.
+inline std::ptrdiff_t shareStart(std::ptrdiff_t total, std::ptrdiff_t parts, std::ptrdiff_t i) {
+    return i * (total / parts) + std::min(i, total % parts);
+}
+
+// Calls body(block) so that the blocks cover elements [0, width) of every
+// row 0..rows-1 exactly once, handing each thread its work in as few
+// blocks as possible so that kernels loop over rows themselves. A team of
+// one gets the whole image as one block on the calling thread. With at
+// least as many rows as threads every thread takes one block of
+// contiguous whole rows; with fewer, every row is cut into pieces that
+// begin on a multiple of `grain`, and each thread takes its pieces.
 template <class Body>
-void forEachPiece(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain, int team,
+void forEachBlock(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain, int team,
                   Body&& body) {
-    const std::ptrdiff_t pieces = piecesPerRow(rows, width, grain, team);
-    if (pieces == 1) {
-        forEachRow(rows, team, [&](std::ptrdiff_t y) { body(y, std::ptrdiff_t{0}, width); });
+    if (team <= 1) {
+        body(Block{0, rows, 0, width});
         return;
     }
-    // The grains of a row are dealt out as evenly as they go, the first
-    // pieces taking one more.
+    const std::ptrdiff_t pieces = piecesPerRow(rows, width, grain, team);
     const std::ptrdiff_t grains = (width + grain - 1) / grain;
-    const std::ptrdiff_t base = grains / pieces, extra = grains % pieces;
-    auto edge = [&](std::ptrdiff_t i) {
-        return std::min(width, (i * base + std::min(i, extra)) * grain);
-    };
+    auto edge = [&](std::ptrdiff_t i) { return std::min(width, shareStart(grains, pieces, i) * grain); };
     runTeam(team, [&] {
-#pragma omp for schedule(static)
-        for (std::ptrdiff_t unit = 0; unit < rows * pieces; ++unit) {
-            const std::ptrdiff_t y = unit / pieces;
-            const std::ptrdiff_t i = unit % pieces;
-            body(y, edge(i), edge(i + 1));
+        // The team the runtime gave, which may be smaller than asked for.
+        const std::ptrdiff_t threads = omp_get_num_threads(), t = omp_get_thread_num();
+        const std::ptrdiff_t units = rows * pieces;
+        const std::ptrdiff_t first = shareStart(units, threads, t), last = shareStart(units, threads, t + 1);
+        if (pieces == 1) {
+            if (first < last) body(Block{first, last, 0, width});
+            return;
+        }
+        for (std::ptrdiff_t unit = first; unit < last; ++unit) {
+            const std::ptrdiff_t y = unit / pieces, i = unit % pieces;
+            body(Block{y, y + 1, edge(i), edge(i + 1)});
         }
     });
 }

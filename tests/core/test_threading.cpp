@@ -105,9 +105,9 @@ struct Piece {
 std::vector<Piece> piecesOf(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain, int team) {
     std::mutex m;
     std::set<Piece> pieces;
-    zel::forEachPiece(rows, width, grain, team, [&](std::ptrdiff_t y, std::ptrdiff_t b, std::ptrdiff_t e) {
+    zel::forEachBlock(rows, width, grain, team, [&](const zel::Block& b) {
         std::lock_guard<std::mutex> lock(m);
-        pieces.insert({y, b, e});
+        for (std::ptrdiff_t y = b.y0; y < b.y1; ++y) pieces.insert({y, b.begin, b.end});
     });
     return {pieces.begin(), pieces.end()};
 }
@@ -144,20 +144,36 @@ TEST(PieceSplit, EveryElementOnceOnGrainBoundaries) {
     }
 }
 
+TEST(PieceSplit, OneBlockOfWholeRowsPerThreadOrOneForTheCaller) {
+    for (int team : {1, 2, 4}) {
+        std::mutex m;
+        std::vector<zel::Block> blocks;
+        zel::forEachBlock(103, 50, 64, team, [&](const zel::Block& b) {
+            std::lock_guard<std::mutex> lock(m);
+            blocks.push_back(b);
+        });
+        ASSERT_EQ(blocks.size(), std::size_t(team));
+        std::ptrdiff_t rows = 0;
+        for (const zel::Block& b : blocks) {
+            EXPECT_EQ(b.begin, 0);
+            EXPECT_EQ(b.end, 50);
+            EXPECT_GE(b.y1 - b.y0, 103 / team);
+            rows += b.y1 - b.y0;
+        }
+        EXPECT_EQ(rows, 103);
+    }
+}
+
 TEST(PieceSplit, WorkersComputeUnderTheCallersControlWord) {
     std::vector<std::uint32_t> seen(4, 0);
     {
         zel::ScopedSseRounding down(zel::kSseRoundDown);
-        zel::forEachPiece(1, 4, 1, 4, [&](std::ptrdiff_t, std::ptrdiff_t b, std::ptrdiff_t) {
-            seen[b] = ps_get_ssx();
-        });
+        zel::forEachBlock(1, 4, 1, 4, [&](const zel::Block& b) { seen[b.begin] = ps_get_ssx(); });
     }
     for (std::uint32_t cw : seen) EXPECT_EQ((cw >> 13) & 3u, zel::kSseRoundDown);
     // The workers' own words come back afterwards.
     std::vector<std::uint32_t> after(4, 0);
-    zel::forEachPiece(1, 4, 1, 4, [&](std::ptrdiff_t, std::ptrdiff_t b, std::ptrdiff_t) {
-        after[b] = ps_get_ssx();
-    });
+    zel::forEachBlock(1, 4, 1, 4, [&](const zel::Block& b) { after[b.begin] = ps_get_ssx(); });
     for (std::uint32_t cw : after) EXPECT_EQ((cw >> 13) & 3u, zel::kSseRoundNearest);
 }
 
