@@ -200,6 +200,13 @@ HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::pt
         return hn::Not(hn::MaskFromVec(hn::LoadU(du, keep + j * lanes)));
     };
 
+    // Without masked stores for the lane size, vectors that hold whole
+    // pixels write each pixel's leading (colour) elements with one move.
+    std::ptrdiff_t colours = 0;
+    if (keep != nullptr)
+        while (colours < period && keep[colours] == 0) ++colours;
+    const bool byPixel = !kNativeMaskedAccess<U> && keep != nullptr && lanes % period == 0;
+
     std::ptrdiff_t x = 0;
     std::ptrdiff_t j = 0;  // vector index within the patterns
     if (!qPattern && keep == nullptr) {
@@ -212,7 +219,9 @@ HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::pt
     }
     for (; n - x >= lanes; x += lanes) {
         const auto r = compute(hn::LoadU(dn, p + x), hn::LoadU(dn, qPattern ? q + j * lanes : q + x));
-        if (keep != nullptr)
+        if (byPixel)
+            StorePixelRuns(r, dn, dst + x, period * sizeof(T), colours * sizeof(T));
+        else if (keep != nullptr)
             StoreUnderMask(hn::BitCast(du, r), written(j), du, reinterpret_cast<U*>(dst + x));
         else
             hn::StoreU(r, dn, dst + x);

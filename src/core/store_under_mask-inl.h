@@ -19,6 +19,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 HWY_BEFORE_NAMESPACE();
 namespace zel {
@@ -50,6 +51,33 @@ HWY_INLINE void StoreUnderMask(V v, M m, D d, hwy::HWY_NAMESPACE::TFromD<D>* p) 
             std::memcpy(p + i, lanes + i, sizeof(T));
             bits &= bits - 1;
         }
+    }
+}
+
+// Writes the first `run` bytes of every `stride`-byte pixel of the vector v
+// to p, and nothing else: the colour channels of whole pixels, with one or
+// two moves each where StoreUnderMask would store lane by lane. The vector
+// must hold whole pixels (its byte length a multiple of `stride`).
+template <class D, class V>
+HWY_INLINE void StorePixelRuns(V v, D d, hwy::HWY_NAMESPACE::TFromD<D>* p, std::size_t stride, std::size_t run) {
+    namespace hn = hwy::HWY_NAMESPACE;
+    using T = hn::TFromD<D>;
+    HWY_ALIGN T lanes[hn::MaxLanes(d)];
+    hn::Store(v, d, lanes);
+    const auto* from = reinterpret_cast<const std::uint8_t*>(lanes);
+    auto* to = reinterpret_cast<std::uint8_t*>(p);
+    const std::size_t bytes = hn::Lanes(d) * sizeof(T);
+    // A constant length per case, so every move is a plain load and store.
+    auto each = [&](auto length) {
+        for (std::size_t at = 0; at < bytes; at += stride) std::memcpy(to + at, from + at, decltype(length)::value);
+    };
+    switch (run) {
+        case 3: each(std::integral_constant<std::size_t, 3>()); break;
+        case 6: each(std::integral_constant<std::size_t, 6>()); break;
+        case 12: each(std::integral_constant<std::size_t, 12>()); break;
+        case 24: each(std::integral_constant<std::size_t, 24>()); break;
+        default:
+            for (std::size_t at = 0; at < bytes; at += stride) std::memcpy(to + at, from + at, run);
     }
 }
 
