@@ -52,13 +52,13 @@ enum ForkCost : int {
     kCostExactDivide = 160,   // 16sc and 32sc division: 128-bit integer quotients
 };
 
-// Weighted bytes each thread of a team must receive: about 120 us of a
+// Weighted bytes each thread of a team must receive: about 85 us of a
 // single thread's plain pass (10 ns per KiB in cache, more from memory).
 // A region of two threads costs about 7 us with spinning workers and 40 to
-// 60 us when they sleep (OMP_WAIT_POLICY=passive), twice that when the
-// caller then has to sleep until a late worker is done; at this share even
-// that costs less than the half of the work the second thread takes.
-constexpr std::int64_t kForkBytesPerThread = std::int64_t{12} << 20;
+// 60 us when they sleep (OMP_WAIT_POLICY=passive); at this share even a
+// sleeping team costs less than the half of the work the second thread
+// takes, so no call gets slower with more threads under either policy.
+constexpr std::int64_t kForkBytesPerThread = std::int64_t{8} << 20;
 
 // Makes every call fork as far as its pieces allow, whatever its size (the
 // tests' way to run team paths on small images); false restores the rule.
