@@ -2,14 +2,13 @@
 // another thread may be updating while the call runs, and the memory past
 // a row, which may be a page the caller cannot read. Every member, every
 // SIMD target, one and several threads.
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <atomic>
+#include <string>
 #include <thread>
 
 #include "arith/arith_test.h"
 #include "core/image.h"
+#include "harness/pages.h"
 #include "harness/sweep.h"
 
 namespace zel::test {
@@ -55,42 +54,20 @@ TEST(ArithUntouched, AlphaUpdatedByAnotherThreadKeepsEveryIncrement) {
     });
 }
 
-// Memory followed by a page that can be neither read nor written.
-class GuardedPages {
-public:
-    explicit GuardedPages(std::size_t bytes) {
-        const std::size_t page = std::size_t(sysconf(_SC_PAGESIZE));
-        size_ = (bytes + page - 1) / page * page;
-        void* p = mmap(nullptr, size_ + page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-        base_ = p == MAP_FAILED ? nullptr : static_cast<std::uint8_t*>(p);
-        if (base_ != nullptr) mprotect(base_ + size_, page, PROT_NONE);
-    }
-    ~GuardedPages() {
-        if (base_ != nullptr) munmap(base_, size_ + std::size_t(sysconf(_SC_PAGESIZE)));
-    }
-    GuardedPages(const GuardedPages&) = delete;
-    GuardedPages& operator=(const GuardedPages&) = delete;
-    bool ok() const { return base_ != nullptr; }
-    std::uint8_t* end() const { return base_ + size_; }
-
-private:
-    std::uint8_t* base_ = nullptr;
-    std::size_t size_ = 0;
-};
-
 // A copy of an image's ROI placed so that its last row ends right before
-// the guard page: AC4 rows end at their last colour element, so the last
-// pixel's alpha lies on the guard page; other rows end at their last byte.
+// the inaccessible page after `pages`: AC4 rows end at their last colour
+// element, so the last pixel's alpha lies on that page; other rows end at
+// their last byte.
 template <class T>
 struct GuardedCopy {
     T* roi;
     int step;
-    GuardedCopy(const GuardedPages& pages, const Image<T>& from, int channels, int computed) {
+    GuardedCopy(Fenced& pages, const Image<T>& from, int channels, int computed) {
         const ZeliSize s = from.size();
         const std::size_t rowBytes = std::size_t(s.width) * channels * sizeof(T);
         const std::size_t lastRow = rowBytes - (channels - computed) * sizeof(T);
         step = int(rowBytes + 8);
-        std::uint8_t* start = pages.end() - (std::size_t(step) * (s.height - 1) + lastRow);
+        std::uint8_t* start = pages.data() + pages.size() - (std::size_t(step) * (s.height - 1) + lastRow);
         roi = reinterpret_cast<T*>(start);
         for (int y = 0; y < s.height; ++y)
             std::memcpy(start + std::size_t(step) * y, from.row(y), y == s.height - 1 ? lastRow : rowBytes);
@@ -102,7 +79,7 @@ struct GuardedCopy {
 // memory.
 template <class T>
 void expectNothingPastTheRow() {
-    GuardedPages pa(1 << 16), pb(1 << 16), pd(1 << 16);
+    Fenced pa(1 << 16), pb(1 << 16), pd(1 << 16);
     ASSERT_TRUE(pa.ok() && pb.ok() && pd.ok());
     forEachConfig([&] {
         std::uint32_t seed = 3;
@@ -118,8 +95,11 @@ void expectNothingPastTheRow() {
                     d(pd, start.d, m.channels, m.computed);
                 GuardedCopy<T>& target = m.inPlace ? (m.isConst ? a : b) : d;
                 const int mode = m.op == Op::DivRound ? run.mode : 1;
-                ASSERT_EQ(m.call(a.roi, a.step, b.roi, b.step, target.roi, target.step, roi, mode, run.scale,
-                                 start.value),
+                const std::string what = m.name + " " + std::to_string(roi.width) + "x" + std::to_string(roi.height);
+                ASSERT_EQ(guardedCall(what, [&] {
+                              return m.call(a.roi, a.step, b.roi, b.step, target.roi, target.step, roi, mode,
+                                            run.scale, start.value);
+                          }),
                           want);
                 const Image<T>& expected = reference.target();
                 for (int y = 0; y < roi.height; ++y)

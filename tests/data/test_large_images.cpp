@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstring>
 #include <functional>
 #include <string>
 #include <vector>
@@ -48,20 +47,17 @@ void runLarge(const std::vector<LargeCase>& cases) {
     for (const LargeCase& c : cases) {
         SCOPED_TRACE(c.name);
         Periodic src(c.srcBytes, sourceByte);
-        ASSERT_NE(src.data(), nullptr);
         ZeroBytes dst(c.dstBytes);
-        ASSERT_NE(dst.data(), nullptr);
+        ASSERT_TRUE(src.ok() && dst.ok());
         std::vector<std::vector<std::uint8_t>> blocks;
         for (const Expect& e : c.expects) {
             blocks.emplace_back(e.block);
             for (std::size_t k = 0; k < e.block; ++k) blocks.back()[k] = e.at(k);
         }
-        bool first = true;
         for (std::int64_t target : zel::simd::availableTargets()) {
             SCOPED_TRACE(zel::simd::targetName(target));
             zel::simd::forceTarget(target);
-            if (!first) std::memset(dst.data(), 0, c.dstBytes);
-            first = false;
+            ASSERT_TRUE(dst.clear());
             const ZelStatus st = guardedCall(c.name + " under " + zel::simd::targetName(target),
                                              [&] { return c.call(src.data(), dst.data()); });
             ASSERT_EQ(st, zelStatusOk);

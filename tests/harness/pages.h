@@ -6,7 +6,9 @@
 // Fenced: bytes that end right where an inaccessible page begins.
 // Periodic: a read-only virtual range of many GiB whose content repeats
 // every period() bytes: one small memory file mapped again and again, so an
-// image of more than 2^31 elements costs one period of memory as a source.
+// image of more than 2^31 elements costs one file of memory as a source.
+// Its last copy may be a private writable one, to change the final bytes.
+// ZeroBytes: a large zero-filled destination that clear() zeroes again.
 //
 // A fault inside guardedCall() names the case before the process dies.
 #pragma once
@@ -20,6 +22,7 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
@@ -63,12 +66,14 @@ public:
     // `bytes` bytes (random from `seed`), then a page with protection `fence`.
     explicit Fenced(std::size_t bytes, int fence = PROT_NONE, std::uint32_t seed = 7)
         : pages_(roundUpToPages(bytes) / pageBytes() + 1), bytes_(bytes) {
+        if (!pages_.ok()) return;
         const std::size_t dataPages = roundUpToPages(bytes) / pageBytes();
         data_ = pages_.page(dataPages) - bytes;
         std::mt19937 rng(seed);
         for (std::uint8_t* p = pages_.page(0); p < pages_.page(dataPages); ++p) *p = static_cast<std::uint8_t>(rng());
         pages_.protect(dataPages, 1, fence);
     }
+    bool ok() const { return data_ != nullptr; }
     std::uint8_t* data() { return data_; }
     std::size_t size() const { return bytes_; }
     // The same bytes as `from` (at least size() of them).
@@ -77,37 +82,32 @@ public:
 private:
     Pages pages_;
     std::size_t bytes_;
-    std::uint8_t* data_;
+    std::uint8_t* data_ = nullptr;
 };
 
 class Periodic {
 public:
-    // At least `bytes` bytes; byte i is valueAt(i % period). The period is a
-    // whole number of pages that is not a power of two and is divisible by
-    // 3 and 4, so whole pixels of 1, 3 and 4 elements repeat with it and an
-    // offset that wrapped at 2^32 reads a different byte. Inaccessible pages
-    // lie before and after.
+    // The default period: a whole number of pages that is not a power of
+    // two and is divisible by 3 and 4, so whole pixels of 1, 3 and 4
+    // elements repeat with it and an offset that wrapped at 2^32 reads a
+    // different byte.
     static constexpr std::size_t kPeriodBytes = 4096 * 1023;
 
-    Periodic(std::size_t bytes, const std::function<std::uint8_t(std::size_t)>& valueAt)
-        : period_(kPeriodBytes), copies_((bytes + period_ - 1) / period_) {
+    enum class LastCopy { shared, privateWritable };
+
+    // At least `bytes` bytes; byte i is valueAt(i % period) (valueAt is
+    // asked for i < period only). `period` counts bytes, the elements of
+    // an 8-bit image; any period works, as the memory file holds a whole
+    // number of periods and of pages. With LastCopy::privateWritable the
+    // copy of the file that holds the final bytes is a private writable
+    // mapping: writableAt() changes its bytes and no others. Inaccessible
+    // pages lie before and after.
+    Periodic(std::size_t bytes, const std::function<std::uint8_t(std::size_t)>& valueAt,
+             std::size_t period = kPeriodBytes, LastCopy last = LastCopy::shared)
+        : period_(period), file_(fileBytes(period)), copies_((bytes + file_ - 1) / file_), last_(last) {
         const int fd = memfd_create("zeli-periodic", 0);
-        if (fd < 0 || ftruncate(fd, static_cast<off_t>(period_)) != 0) return;
-        void* one = mmap(nullptr, period_, PROT_READ | PROT_WRITE, MAP_SHARED, fd, 0);
-        if (one != MAP_FAILED) {
-            auto* p = static_cast<std::uint8_t*>(one);
-            for (std::size_t i = 0; i < period_; ++i) p[i] = valueAt(i);
-            munmap(one, period_);
-            reserved_ = copies_ * period_ + 2 * pageBytes();
-            void* range = mmap(nullptr, reserved_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-            if (range != MAP_FAILED) {
-                range_ = static_cast<std::uint8_t*>(range);
-                data_ = range_ + pageBytes();
-                for (std::size_t k = 0; k < copies_ && data_ != nullptr; ++k)
-                    if (mmap(data_ + k * period_, period_, PROT_READ, MAP_SHARED | MAP_FIXED, fd, 0) == MAP_FAILED)
-                        data_ = nullptr;
-            }
-        }
+        if (fd < 0) return;
+        if (ftruncate(fd, static_cast<off_t>(file_)) == 0) map(fd, valueAt);
         close(fd);
     }
     ~Periodic() {
@@ -116,11 +116,46 @@ public:
     Periodic(const Periodic&) = delete;
     Periodic& operator=(const Periodic&) = delete;
 
+    bool ok() const { return data_ != nullptr; }
     const std::uint8_t* data() const { return data_; }
     std::size_t period() const { return period_; }
+    // Byte `at` for writing, where it lies in a private writable last copy;
+    // null elsewhere.
+    std::uint8_t* writableAt(std::size_t at) {
+        const bool inLast = copies_ > 0 && at >= (copies_ - 1) * file_ && at < copies_ * file_;
+        return data_ != nullptr && last_ == LastCopy::privateWritable && inLast ? data_ + at : nullptr;
+    }
 
 private:
-    std::size_t period_, copies_, reserved_ = 0;
+    // Whole periods and whole pages, and at least 1 MiB: the system limits
+    // how many mappings a process has, and a short file needs more of them.
+    static std::size_t fileBytes(std::size_t period) {
+        const std::size_t unit = std::lcm(pageBytes(), period), least = std::size_t{1} << 20;
+        return (least + unit - 1) / unit * unit;
+    }
+
+    void map(int fd, const std::function<std::uint8_t(std::size_t)>& valueAt) {
+        void* one = mmap(nullptr, file_, PROT_READ | PROT_WRITE, MAP_SHARED, fd, 0);
+        if (one == MAP_FAILED) return;
+        auto* p = static_cast<std::uint8_t*>(one);
+        for (std::size_t i = 0; i < file_; ++i) p[i] = valueAt(i % period_);
+        munmap(one, file_);
+        reserved_ = copies_ * file_ + 2 * pageBytes();
+        void* range = mmap(nullptr, reserved_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        if (range == MAP_FAILED) return;
+        range_ = static_cast<std::uint8_t*>(range);
+        std::uint8_t* data = range_ + pageBytes();
+        for (std::size_t k = 0; k < copies_; ++k) {
+            const bool writable = k + 1 == copies_ && last_ == LastCopy::privateWritable;
+            const int prot = writable ? PROT_READ | PROT_WRITE : PROT_READ;
+            const int flags = (writable ? MAP_PRIVATE : MAP_SHARED) | MAP_FIXED;
+            if (mmap(data + k * file_, file_, prot, flags, fd, 0) == MAP_FAILED) return;
+        }
+        data_ = data;
+    }
+
+    std::size_t period_, file_, copies_, reserved_ = 0;
+    LastCopy last_;
     std::uint8_t* range_ = nullptr;
     std::uint8_t* data_ = nullptr;
 };
@@ -139,7 +174,11 @@ public:
     }
     ZeroBytes(const ZeroBytes&) = delete;
     ZeroBytes& operator=(const ZeroBytes&) = delete;
+    bool ok() const { return data_ != nullptr; }
     std::uint8_t* data() const { return data_; }
+    // Every byte reads as zero again, and the memory goes back to the
+    // system until it is written; false where that failed.
+    [[nodiscard]] bool clear() { return data_ != nullptr && madvise(data_, bytes_, MADV_DONTNEED) == 0; }
 
 private:
     std::size_t bytes_;
