@@ -79,8 +79,9 @@ ZelStatus zeroFill(T* dst, int step, ZeliSize roi) {
     }
 }
 
-// A row kernel: n elements of p and of q (or of the constant pattern at q),
-// results to dst; see BinaryRow.
+// A block kernel: `rows` rows of n elements of p and of q (or of the
+// constant pattern at q), results to dst, the steps in bytes; see
+// BinaryRows.
 template <class B>
 using RowKernel = void (*)(const B* p, std::ptrdiff_t pStep, const B* q, std::ptrdiff_t qStep, bool qPattern,
                            B* dst, std::ptrdiff_t dstStep, std::ptrdiff_t n, std::ptrdiff_t rows, int period,
