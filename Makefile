@@ -24,7 +24,7 @@ test: build
 
 bench: deps
 	cmake -S . -B $(BUILD) $(CMAKE_COMMON) -DZELI_BUILD_BENCH=ON
-	cmake --build $(BUILD) -j $(JOBS) --target zeli_bench
+	cmake --build $(BUILD) -j $(JOBS) --target zeli_bench zeli_untouched_targets
 	$(BUILD)/bench/zeli_bench --benchmark_repetitions=5 --benchmark_min_time=0.1 \
 	    --benchmark_report_aggregates_only=false $(BENCH_ARGS)
 
