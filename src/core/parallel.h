@@ -9,10 +9,10 @@
 // rule is measured, not tuned per family: a family states only its cost
 // weight (docs/architecture.md).
 //
-// Division of work. Rows go to the threads in contiguous blocks under the
-// static schedule; when there are fewer rows than threads (one long
-// collapsed row, say), each row is cut into pieces whose boundaries fall on
-// a multiple of the family's grain. Every element is computed by exactly
+// Division of work. Rows go to the threads in contiguous blocks, one per
+// thread, which the kernels walk themselves; when there are fewer rows
+// than threads (one long collapsed row, say), each row is cut into pieces
+// whose boundaries fall on a multiple of the family's grain. Every element is computed by exactly
 // one thread with the same code, so results never depend on the team size.
 // Reductions keep one slot per block of a fixed number of rows and add the
 // slots in order. Every thread of a team computes under the calling
@@ -24,7 +24,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <new>
 
 #include "core/fpcontrol.h"
@@ -76,8 +75,9 @@ inline int teamSize(std::int64_t bytes, int cost, std::int64_t pieces) {
     return team < 2 ? 1 : static_cast<int>(team);
 }
 
-// Runs region(threadIndex) on a team of `team` threads, each under the
-// calling thread's control word.
+// Runs region() on every thread of a team of `team` threads (the runtime
+// may give fewer, one inside a parallel region of the caller's), each
+// under the calling thread's control word.
 template <class Region>
 void runTeam(int team, Region&& region) {
     const std::uint32_t cw = ps_get_ssx() & ~kExceptionFlags;
