@@ -41,21 +41,23 @@ namespace zel {
 
 // Sets a whole control word for the lifetime of the scope; on exit the
 // previous word comes back, keeping the exception flags raised meanwhile.
+// When the control bits already match (the common case: the caller runs
+// in the standard environment) the word is neither written nor restored.
 class ScopedControlWord {
 public:
     explicit ScopedControlWord(std::uint32_t cw) : saved_(ps_get_ssx()) {
-        if (saved_ != cw) ps_set_ssx(cw);
+        changed_ = (saved_ & ~kExceptionFlags) != (cw & ~kExceptionFlags);
+        if (changed_) ps_set_ssx(cw);
     }
     ~ScopedControlWord() {
-        const std::uint32_t now = ps_get_ssx();
-        const std::uint32_t restored = saved_ | (now & kExceptionFlags);
-        if (now != restored) ps_set_ssx(restored);
+        if (changed_) ps_set_ssx(saved_ | (ps_get_ssx() & kExceptionFlags));
     }
     ScopedControlWord(const ScopedControlWord&) = delete;
     ScopedControlWord& operator=(const ScopedControlWord&) = delete;
 
 private:
     std::uint32_t saved_;
+    bool changed_;
 };
 
 // The environment every floating-point kernel computes under.
