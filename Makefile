@@ -5,7 +5,7 @@
 #   make bench   build and run the benchmarks with the ratio report
 
 DEB_PACKAGES := cmake make g++ pkg-config binutils ccache libgtest-dev libbenchmark-dev \
-                libhwy-dev libopencv-core-dev libopencv-imgproc-dev libpng-dev
+                libhwy-dev libopencv-core-dev libopencv-imgproc-dev libpng-dev python3
 JOBS  ?= $(shell nproc)
 BUILD ?= build
 ASAN_BUILD ?= build-sanitize
