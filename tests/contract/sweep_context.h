@@ -5,7 +5,8 @@
 // SweepContext: operand pointers and steps, the ROI, constants, the scale
 // factor, the rounding mode, the channel order. A context lays out every
 // image inside a buffer with at least kMargin pixels (and kMargin rows) of
-// random bytes around the ROI, remembers every byte, and can break one
+// random bytes around the ROI (or, for tight rows that a call may treat as
+// one long row, kMargin rows above and below only), remembers every byte, and can break one
 // argument at a time (a null pointer, a step) for the rejection cases.
 #pragma once
 
@@ -74,6 +75,8 @@ struct Geometry {
     ZeliSize roi{7, 5};
     int padElements = 3;     // extra elements at the end of every row
     int offsetElements = 1;  // extra elements before the ROI's first pixel
+    bool tight = false;      // rows follow one another (no margin left and right, no padding)
+    bool upward = false;     // pointers at the last ROI row and negated steps (same bytes)
     std::uint32_t seed = 1;
 };
 
@@ -92,6 +95,7 @@ public:
         entry_ = &entry;
         roi = g.roi;
         nullOperand_ = nullPlane_ = -100;
+        aliasSource_ = aliasTarget_ = -1;
         std::mt19937 rng(g.seed);
         ops_.assign(entry.ops.size(), {});
         for (std::size_t i = 0; i < entry.ops.size(); ++i) {
@@ -100,10 +104,12 @@ public:
             b.width = info.transposed ? g.roi.height : g.roi.width;
             b.height = info.transposed ? g.roi.width : g.roi.height;
             b.pixelBytes = info.elemBytes * info.channels;
-            b.step = (b.width + 2 * kMargin) * b.pixelBytes + g.padElements * info.elemBytes;
-            b.offset = std::ptrdiff_t{kMargin} * b.step + kMargin * b.pixelBytes +
+            const int side = g.tight ? 0 : kMargin;
+            b.step = (b.width + 2 * side) * b.pixelBytes + (g.tight ? 0 : g.padElements * info.elemBytes);
+            b.offset = std::ptrdiff_t{kMargin} * b.step + side * b.pixelBytes +
                        (g.offsetElements + info.channelOffset) * info.elemBytes;
-            b.stepArg = b.step;
+            b.stepArg = g.upward ? -b.step : b.step;
+            b.pointerOffset = b.offset + (g.upward ? std::ptrdiff_t{b.height - 1} * b.step : 0);
             const std::size_t bytes = std::size_t(b.step) * (b.height + 2 * kMargin) +
                                       std::size_t(g.offsetElements + 1) * info.elemBytes;
             b.planes.assign(std::max(info.planes, 1), {});
@@ -148,17 +154,35 @@ public:
     template <class T>
     T* ptr(int i) {
         if (nullOperand_ == i) return nullptr;
-        return reinterpret_cast<T*>(ops_[i].planes[0].data() + ops_[i].offset);
+        if (i == aliasSource_) i = aliasTarget_;
+        return reinterpret_cast<T*>(ops_[i].planes[0].data() + ops_[i].pointerOffset);
     }
     template <class T>
     T* const* planes(int i) {
         if (nullOperand_ == i && nullPlane_ < 0) return nullptr;
         auto& arr = planePtrs_[i];
         for (std::size_t k = 0; k < ops_[i].planes.size(); ++k)
-            arr[k] = nullOperand_ == i && nullPlane_ == int(k) ? nullptr : ops_[i].planes[k].data() + ops_[i].offset;
+            arr[k] = nullOperand_ == i && nullPlane_ == int(k) ? nullptr : ops_[i].planes[k].data() + ops_[i].pointerOffset;
         return reinterpret_cast<T* const*>(arr.data());
     }
-    int step(int i) const { return ops_[i].stepArg; }
+    int step(int i) const { return ops_[i == aliasSource_ ? aliasTarget_ : i].stepArg; }
+
+    // Source operand `source` passed with the pointer and step of operand
+    // `target` (both laid out alike); -1 ends it.
+    void alias(int source, int target) {
+        aliasSource_ = source;
+        aliasTarget_ = target;
+    }
+    // The source gets the destination's bytes, as the aliased call sees them.
+    void copyOperand(int from, int to) {
+        ops_[to].planes = ops_[from].planes;
+        ops_[to].before = ops_[from].before;
+    }
+    bool sameLayout(int a, int b) const {
+        return ops_[a].planes.size() == ops_[b].planes.size() && ops_[a].step == ops_[b].step &&
+               ops_[a].offset == ops_[b].offset && ops_[a].planes[0].size() == ops_[b].planes[0].size();
+    }
+    const std::vector<std::uint8_t>& operandBytes(int i) const { return ops_[i].planes[0]; }
     template <class T>
     T scalar() const {
         return element<T>(0);
@@ -179,6 +203,7 @@ public:
     }
     void setStep(int operand, int step) { ops_[operand].stepArg = step; }
     int naturalStep(int operand) const { return ops_[operand].step; }
+    bool upward() const { return !ops_.empty() && ops_[0].stepArg < 0; }
     void setOrderEntry(int k, int v) { order_[k] = v; }
     std::array<int, 4> orderEntries() const { return order_; }
 
@@ -235,7 +260,10 @@ public:
         std::string s = std::string(entry_->name) + " roi " + std::to_string(roi.width) + "x" +
                         std::to_string(roi.height) + " steps";
         for (const auto& b : ops_) s += " " + std::to_string(b.stepArg);
+        if (upward()) s += " (upward)";
         s += " scaleFactor " + std::to_string(scaleFactor);
+        s += " constants";
+        for (int v : constants_) s += " " + std::to_string(v);
         if (entry_->hasRndMode) s += " rndMode " + std::to_string(rndMode);
         if (entry_->orderLength > 0) {
             s += " order";
@@ -248,7 +276,8 @@ private:
     struct Buffers {
         std::vector<std::vector<std::uint8_t>> planes, before;
         int width = 0, height = 0, pixelBytes = 0, step = 0, stepArg = 0;
-        std::ptrdiff_t offset = 0;
+        std::ptrdiff_t offset = 0;         // the first ROI pixel (top row)
+        std::ptrdiff_t pointerOffset = 0;  // where the pointer argument points
     };
 
     // SwapChannels C3C4: entries 0..2 take a source channel, 3 writes the
@@ -294,13 +323,14 @@ private:
     }
     template <class P>
     static P part(int v) {
-        if constexpr (std::is_floating_point_v<P>) return static_cast<P>(v) / 8 + P(0.25);
-        else return static_cast<P>(v);
+        if constexpr (std::is_floating_point_v<P>) return static_cast<P>(v) / 8;
+        else return static_cast<P>(v) != 0 ? static_cast<P>(v) : P(1);
     }
     int constants_[8] = {1, 2, 3, 4, 5, 6, 7, 8};
     alignas(8) std::uint8_t valueStore_[32] = {};
     std::array<int, 4> order_{};
     int nullOperand_ = -100, nullPlane_ = -100;
+    int aliasSource_ = -1, aliasTarget_ = -1;
 };
 
 }  // namespace zel::contract

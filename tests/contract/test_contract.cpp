@@ -71,6 +71,11 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
                         [s](SweepContext& c) { c.roi = s; }});
     if (e.squareRoi)
         list.push_back({"non-square roi", zelStatusBadSize, [](SweepContext& c) { c.roi = {c.roi.width, c.roi.height - 1}; }});
+    // Transpose out of place with pSrc == pDst: only a square ROI with equal
+    // steps is defined (in place); anything else is refused.
+    if (std::string(e.family) == "Transpose" && !e.squareRoi && g.roi.width != g.roi.height)
+        list.push_back({"pSrc == pDst, roi not square", zelStatusBadArgument,
+                        [](SweepContext& c) { c.alias(0, 1); }});
     if (e.checksSteps) {
         for (std::size_t k = 0; k < e.steps.size(); ++k) {
             const int op = e.steps[k];
@@ -209,6 +214,67 @@ TEST(ContractSweep, FailedAllocationsReturnNoMemoryAndLeakNothing) {
     std::printf("%d image functions allocate internally\n", allocating);
 }
 
+// Pixelwise members whose source and destination share type and layout
+// accept the destination's own pointer and step as a source: the call then
+// equals one whose source is a separate copy of the destination.
+bool acceptsSourceOnDestination(const CallEntry& e) {
+    static const std::set<std::string> pixelwise = {"Add", "AddC", "Sub", "SubC", "Mul", "MulC", "MulScale",
+                                                     "MulCScale", "Div", "Div_Round", "DivC", "Copy",
+                                                     "CopyManaged", "SwapChannels"};
+    return pixelwise.count(e.family) > 0;
+}
+
+std::vector<std::pair<int, int>> sourceDestinationPairs(const CallEntry& e) {
+    std::vector<std::pair<int, int>> pairs;
+    if (!acceptsSourceOnDestination(e)) return pairs;
+    for (std::size_t d = 0; d < e.ops.size(); ++d) {
+        if (!e.ops[d].dst) continue;
+        for (std::size_t s = 0; s < e.ops.size(); ++s) {
+            const OperandInfo &a = e.ops[s], &b = e.ops[d];
+            if (a.dst || std::string(a.param) == "pMask") continue;
+            if (a.elemBytes == b.elemBytes && a.channels == b.channels && a.planes == b.planes &&
+                a.channelOffset == b.channelOffset && !b.transposed)
+                pairs.push_back({int(s), int(d)});
+        }
+    }
+    return pairs;
+}
+
+void checkSourceOnDestination(SweepContext& c, const CallEntry& e, const Geometry& g,
+                              const std::function<void(SweepContext&)>& arguments, std::string* fault) {
+    for (auto [src, dst] : sourceDestinationPairs(e)) {
+        c.setup(e, g);
+        arguments(c);
+        if (!c.sameLayout(src, dst)) continue;
+        c.copyOperand(dst, src);
+        const int expectedStatus = run(c, e);
+        const auto expected = c.operandBytes(dst);
+        c.setup(e, g);
+        arguments(c);
+        c.alias(src, dst);
+        const int status = run(c, e);
+        if (status != expectedStatus || c.operandBytes(dst) != expected) {
+            *fault = c.describe() + " with " + e.ops[src].param + " on " + e.ops[dst].param +
+                     ": differs from a separate source with the same bytes (status " + std::to_string(status) +
+                     ", expected " + std::to_string(expectedStatus) + ")";
+            return;
+        }
+    }
+}
+
+TEST(ContractSweep, SourceOnTheDestinationEqualsASeparateCopy) {
+    SweepContext c;
+    int members = 0;
+    for (const auto& e : kCalls) {
+        if (sourceDestinationPairs(e).empty()) continue;
+        ++members;
+        std::string fault;
+        checkSourceOnDestination(c, e, geometryFor(e), [](SweepContext&) {}, &fault);
+        EXPECT_TRUE(fault.empty()) << fault;
+    }
+    std::printf("%d members take a source on their destination\n", members);
+}
+
 // ---- The library frame ----------------------------------------------------
 
 template <class F>
@@ -315,7 +381,7 @@ TEST(ContractSweep, RandomArgumentSets) {
     const auto targets = simd::availableTargets();
     const auto start = std::chrono::steady_clock::now();
     SweepContext c;
-    long made = 0, failures = 0;
+    long made = 0, failures = 0, tightDraws = 0, upwardDraws = 0;
     for (long i = 0; draws < 0 || i < draws; ++i) {
         if (draws < 0 && std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count() >= seconds)
             break;
@@ -327,6 +393,9 @@ TEST(ContractSweep, RandomArgumentSets) {
         if (e.squareRoi) g.roi.height = g.roi.width;
         g.padElements = std::uniform_int_distribution<int>(0, 40)(rng);
         g.offsetElements = std::uniform_int_distribution<int>(0, 31)(rng);
+        g.tight = rng() % 4 == 0;
+        // Families that trust their steps walk a negative step upwards.
+        const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && rng() % 3 == 0;
         g.seed = static_cast<std::uint32_t>(rng());
         const int threads = std::uniform_int_distribution<int>(1, 4)(rng);
         const std::int64_t target = targets[std::uniform_int_distribution<std::size_t>(0, targets.size() - 1)(rng)];
@@ -349,7 +418,11 @@ TEST(ContractSweep, RandomArgumentSets) {
         simd::forceTarget(target);
         zelSetNumThreads(threads);
         forkEagerlyForTests(threads > 1 && (rng() & 1));
+        g.upward = upward;
+        tightDraws += g.tight;
+        upwardDraws += upward;
         prepare();
+        g.upward = false;
         const int status = run(c, e);
         made += 2;
         std::string fault;
@@ -357,6 +430,13 @@ TEST(ContractSweep, RandomArgumentSets) {
         else if (status != refStatus) fault = "status " + std::to_string(status) + ", one thread gave " + std::to_string(refStatus);
         else if (std::string stray = c.strayWrite(); !stray.empty()) fault = stray;
         else if (c.contents() != reference) fault = "result differs from the one-thread run";
+
+        if (fault.empty())
+            checkSourceOnDestination(c, e, g, [&](SweepContext& cc) {
+                std::mt19937 args(argSeed);
+                cc.randomizeArguments(args);
+                cc.snapshot();
+            }, &fault);
 
         // One broken argument on the same layout.
         if (fault.empty()) {
@@ -374,11 +454,12 @@ TEST(ContractSweep, RandomArgumentSets) {
             ++failures;
             ADD_FAILURE() << "draw " << i << " of seed " << seed << ": " << c.describe() << ", "
                           << simd::targetName(target) << ", " << threads << " threads, pad " << g.padElements
-                          << ", offset " << g.offsetElements << ": " << fault;
+                          << ", offset " << g.offsetElements << (g.tight ? ", tight rows" : "") << ": " << fault;
             if (failures >= 20) break;
         }
     }
-    std::printf("random sweep: %ld calls, %ld failures\n", made, failures);
+    std::printf("random sweep: %ld calls (%ld draws with tight rows, %ld upward), %ld failures\n", made,
+                tightDraws, upwardDraws, failures);
 }
 
 class Report : public ::testing::Environment {
