@@ -17,14 +17,10 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
-#include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -32,6 +28,7 @@
 #include "core/memory.h"
 #include "core/parallel.h"
 #include "core/simd.h"
+#include "harness/declared.h"
 #include "harness/sweep.h"
 #include "zeli.h"
 
@@ -106,20 +103,8 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
     return list;
 }
 
-std::set<std::string> declaredFunctions() {
-    std::ifstream in(ZELI_HEADER);
-    std::stringstream text;
-    text << in.rdbuf();
-    const std::string header = text.str();
-    const std::regex declaration(R"(ZELAPI[^;(]*\b(zel\w+)\s*\()");
-    std::set<std::string> names;
-    for (std::sregex_iterator it(header.begin(), header.end(), declaration), end; it != end; ++it)
-        names.insert((*it)[1]);
-    return names;
-}
-
 TEST(ContractSweep, TableHoldsEveryDeclaredFunction) {
-    const auto declared = declaredFunctions();
+    const auto declared = zel::test::declaredFunctions(ZELI_HEADER);
     std::set<std::string> table;
     for (const auto& e : kCalls) EXPECT_TRUE(table.insert(e.name).second) << e.name << " twice";
     for (const auto& f : kFrame) EXPECT_TRUE(table.insert(f.name).second) << f.name << " twice";
