@@ -12,8 +12,10 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <random>
 #include <string>
 #include <type_traits>
@@ -132,12 +134,18 @@ public:
 
     // Random argument values for the seeded mode (constants never zero).
     void randomizeArguments(std::mt19937& rng) {
+        // Mostly small constants and scale factors inside the band where
+        // results vary; one draw in five reaches the extremes.
+        const bool extreme = rng() % 5 == 0;
         std::uniform_int_distribution<int> constant(-300, 300);
         for (auto& v : constants_) {
-            do v = constant(rng);
+            do v = extreme ? static_cast<int>(rng()) : constant(rng);
             while (v == 0);
         }
-        scaleFactor = std::uniform_int_distribution<int>(-4, 34)(rng);
+        static constexpr int kExtremeScales[] = {INT_MIN, INT_MIN + 1, -1000, -64, -33, -32, -31, -17,
+                                                 31, 32, 33, 63, 64, 1000, INT_MAX};
+        scaleFactor = extreme ? kExtremeScales[rng() % std::size(kExtremeScales)]
+                              : std::uniform_int_distribution<int>(-4, 34)(rng);
         rndMode = std::uniform_int_distribution<int>(0, 2)(rng);
         flags = static_cast<int>(rng());
         val = static_cast<Zel8u>(rng());

@@ -15,6 +15,9 @@
 // With ZELI_SWEEP_SECONDS set, random argument sets are drawn for that long
 // (ZELI_SWEEP_SEED replays a run); without it a short seeded run is made.
 #include <gtest/gtest.h>
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/common_interface_defs.h>
+#endif
 
 #include <chrono>
 #include <cstdio>
@@ -29,6 +32,7 @@
 #include "core/parallel.h"
 #include "core/simd.h"
 #include "harness/declared.h"
+#include "harness/pages.h"
 #include "harness/sweep.h"
 #include "zeli.h"
 
@@ -362,6 +366,10 @@ TEST(ContractSweep, RandomArgumentSets) {
     // Without a time budget: a short fixed run, part of every test pass.
     const long draws = secondsText ? -1 : 600;
     std::printf("random sweep seed %u (ZELI_SWEEP_SEED=%u replays it)\n", seed, seed);
+    std::fflush(stdout);
+#if defined(__SANITIZE_ADDRESS__)
+    __sanitizer_set_death_callback(+[] { std::fprintf(stderr, "\n*** during: %s\n", test::detail::faultCase); });
+#endif
     test::ConfigGuard restore;
     const auto targets = simd::availableTargets();
     const auto start = std::chrono::steady_clock::now();
@@ -408,7 +416,10 @@ TEST(ContractSweep, RandomArgumentSets) {
         upwardDraws += upward;
         prepare();
         g.upward = false;
-        const int status = run(c, e);
+        const std::string what = "draw " + std::to_string(i) + " of seed " + std::to_string(seed) + ": " +
+                                 c.describe() + ", " + simd::targetName(target) + ", " + std::to_string(threads) +
+                                 " threads";
+        const int status = test::guardedCall(what, [&] { return run(c, e); });
         made += 2;
         std::string fault;
         if (status < 0) fault = "status " + std::to_string(status) + " for a valid call";
