@@ -237,7 +237,7 @@ public:
                     const std::ptrdiff_t first = b.offset - std::ptrdiff_t{info.channelOffset} * info.elemBytes;
                     for (int y = 0; y < b.height; ++y)
                         for (int x = 0; x < b.width; ++x)
-                            for (int c = 0; c < info.channels; ++c)
+                            for (int c = 0; c < info.channels && maskSelects(x, y); ++c)
                                 if (writable >> c & 1) {
                                     const std::ptrdiff_t at = first + std::ptrdiff_t{y} * b.step +
                                                               std::ptrdiff_t{x} * b.pixelBytes + c * info.elemBytes;
@@ -287,6 +287,14 @@ private:
         std::ptrdiff_t offset = 0;         // the first ROI pixel (top row)
         std::ptrdiff_t pointerOffset = 0;  // where the pointer argument points
     };
+
+    // Pixels a mask excludes are not the call's to write.
+    bool maskSelects(int x, int y) const {
+        for (std::size_t i = 0; i < ops_.size(); ++i)
+            if (std::strcmp(entry_->ops[i].param, "pMask") == 0)
+                return ops_[i].before[0][ops_[i].offset + std::ptrdiff_t{y} * ops_[i].step + x] != 0;
+        return true;
+    }
 
     // SwapChannels C3C4: entries 0..2 take a source channel, 3 writes the
     // fill value (8u only), any other value keeps the destination channel.
