@@ -405,7 +405,9 @@ TEST(ContractSweep, RandomArgumentSets) {
         zelSetNumThreads(1);
         forkEagerlyForTests(false);
         prepare();
-        const int refStatus = run(c, e);
+        const int refStatus = test::guardedCall("reference run of draw " + std::to_string(i) + " of seed " +
+                                                    std::to_string(seed) + ": " + c.describe(),
+                                                [&] { return run(c, e); });
         const auto reference = c.contents();
 
         simd::forceTarget(target);
