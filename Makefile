@@ -3,9 +3,11 @@
 #   make test    install what is missing, build, run the whole test suite, then
 #                again under AddressSanitizer and UndefinedBehaviorSanitizer
 #   make bench   build and run the benchmarks with the ratio report
+#   make fuzz    the contract sweep's random mode under the sanitizers for
+#                FUZZ_SECONDS seconds (default 1800); FUZZ_SEED replays a run
 
 DEB_PACKAGES := cmake make g++ pkg-config binutils ccache libgtest-dev libbenchmark-dev \
-                libhwy-dev libopencv-core-dev libopencv-imgproc-dev libpng-dev
+                libhwy-dev libopencv-core-dev libopencv-imgproc-dev libpng-dev python3
 JOBS  ?= $(shell nproc)
 BUILD ?= build
 ASAN_BUILD ?= build-sanitize
@@ -13,7 +15,9 @@ CMAKE_COMMON := -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_C_COMPILER_LAUNCHER
 SANITIZER_ENV := ASAN_OPTIONS=allocator_may_return_null=1:detect_leaks=1 \
                  UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
-.PHONY: demo test bench deps build build-sanitize test-sanitize clean
+FUZZ_SECONDS ?= 1800
+
+.PHONY: demo test bench fuzz deps build build-sanitize test-sanitize clean
 
 demo: build
 	$(BUILD)/examples/zeli_demo out
@@ -27,6 +31,11 @@ bench: deps
 	cmake --build $(BUILD) -j $(JOBS) --target zeli_bench zeli_untouched_targets
 	$(BUILD)/bench/zeli_bench --benchmark_repetitions=5 --benchmark_min_time=0.1 \
 	    --benchmark_report_aggregates_only=false $(BENCH_ARGS)
+
+fuzz: build-sanitize
+	$(SANITIZER_ENV) OMP_WAIT_POLICY=passive ZELI_SWEEP_SECONDS=$(FUZZ_SECONDS) \
+	    $(if $(FUZZ_SEED),ZELI_SWEEP_SEED=$(FUZZ_SEED)) \
+	    $(ASAN_BUILD)/tests/test_contract --gtest_filter=ContractSweep.RandomArgumentSets
 
 deps:
 	@missing=$$(for p in $(DEB_PACKAGES); do \

@@ -47,7 +47,8 @@ inline std::uint64_t scaledQuotient(std::uint64_t num, std::uint64_t den, int s,
         d = den;
         q = num / den;
         r = num % den;
-        for (int left = std::min(-s, 128); left > 0 && q < kSaturatedMagnitude;) {
+        // s may be INT_MIN: cap before negating.
+        for (int left = s <= -128 ? 128 : -s; left > 0 && q < kSaturatedMagnitude;) {
             const int k = std::min(left, 63);  // r < 2^64, so r << 63 fits
             q = (q << k) + ((r << k) / d);
             r = (r << k) % d;

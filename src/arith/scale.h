@@ -86,6 +86,10 @@ constexpr int ceilLog2(std::uint64_t x) {
 template <class Op, class T>
 inline constexpr int kZeroFrom = ceilLog2(maxMagnitude<Op, T>()) + 1;
 
+// The left shift 2^-s of a scale factor s < 0, capped at `cap`; s may be
+// INT_MIN, whose negation does not fit in an int.
+constexpr int leftShiftOf(int s, int cap) { return s <= -cap ? cap : -s; }
+
 // Left shifts from this count on saturate every non-zero result.
 template <class Op, class T>
 inline constexpr int kBoundShift =
@@ -99,7 +103,7 @@ constexpr Band chooseBand(int s) {
     if (s >= kZeroFrom<Op, T>) return Band::Zero;
     if (s == 1) return Band::One;
     if (s > 0) return Band::Pos;
-    return -s >= kBoundShift<Op, T> ? Band::Bound : Band::Neg;
+    return s <= -kBoundShift<Op, T> ? Band::Bound : Band::Neg;
 }
 
 // Operations whose exact result needs no wider lane: saturating sums and
@@ -134,7 +138,7 @@ constexpr Dst scaleSaturate(Wide v, int s) {
         return saturate<Dst>((v + half - 1 + ((v >> s) & 1)) >> s);
     }
     if (s < 0) {
-        const int n = std::min(-s, int(sizeof(Dst) * 8));  // more saturates all the same
+        const int n = leftShiftOf(s, int(sizeof(Dst) * 8));  // more saturates all the same
         return saturate<Dst>(v * (Wide(1) << n));
     }
     return saturate<Dst>(v);
@@ -161,7 +165,7 @@ ScaleArgs scaleArgs(int s) {
     if constexpr (std::is_same_v<T, Zel16sc>) a.imagTop = scaleSaturate<Zel16s>(std::int64_t{1} << 31, s);
     if (s > 0) a.shift = s;
     if (s < 0) {
-        a.shift = std::min(-s, kBoundShift<Op, T>);
+        a.shift = leftShiftOf(s, kBoundShift<Op, T>);
         if constexpr (sizeof(B) <= 2) {
             a.keepHi = std::int32_t(std::numeric_limits<B>::max()) >> a.shift;
             a.keepLo = std::int32_t(std::numeric_limits<B>::min()) >> a.shift;

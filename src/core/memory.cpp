@@ -1,5 +1,6 @@
 #include "core/memory.h"
 
+#include <atomic>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
@@ -12,12 +13,26 @@ namespace {
 // address, and the request carries that much slack.
 constexpr std::size_t kSlack = sizeof(void*) + kAlignment - 1;
 
+// Test-only bookkeeping (see memory.h): two relaxed counters per block.
+std::atomic<long> callsSoFar{0};
+std::atomic<long> failingCall{0};  // the value of callsSoFar that fails; 0: none
+std::atomic<long> liveBlocks{0};
+
 }  // namespace
 
+void failAllocationForTests(long n) {
+    failingCall.store(n > 0 ? callsSoFar.load() + n : 0);
+}
+long allocationCallsForTests() { return callsSoFar.load(); }
+long liveBlocksForTests() { return liveBlocks.load(); }
+
 void* mallocAligned(std::size_t bytes) {
+    const long call = callsSoFar.fetch_add(1, std::memory_order_relaxed) + 1;
+    if (call == failingCall.load(std::memory_order_relaxed)) return nullptr;
     if (bytes == 0 || bytes > std::numeric_limits<std::size_t>::max() / 2) return nullptr;
     void* raw = std::malloc(bytes + kSlack);
     if (raw == nullptr) return nullptr;
+    liveBlocks.fetch_add(1, std::memory_order_relaxed);
     const auto address = reinterpret_cast<std::uintptr_t>(raw);
     const auto aligned = (address + kSlack) & ~static_cast<std::uintptr_t>(kAlignment - 1);
     reinterpret_cast<void**>(aligned)[-1] = raw;
@@ -48,5 +63,7 @@ Zel32fc* zelsMalloc_32fc(int len) { return zel::mallocElements<Zel32fc>(len); }
 Zel64s* zelsMalloc_64s(int len) { return zel::mallocElements<Zel64s>(len); }
 
 void zelsFree(void* ptr) {
-    if (ptr != nullptr) std::free(static_cast<void**>(ptr)[-1]);
+    if (ptr == nullptr) return;
+    zel::liveBlocks.fetch_sub(1, std::memory_order_relaxed);
+    std::free(static_cast<void**>(ptr)[-1]);
 }

@@ -33,6 +33,17 @@ constexpr std::size_t kAlignment = 32;
 // The one place that talks to malloc: `bytes` bytes, 32-byte aligned.
 void* mallocAligned(std::size_t bytes);
 
+// Test-only hooks, not part of the library's behaviour in production.
+// failAllocationForTests(n): the n-th call of mallocAligned from now on
+// (counting from 1) returns null as if the system had no memory, and every
+// later call succeeds again; 0 disables the injection.
+void failAllocationForTests(long n);
+// Calls of mallocAligned so far (failed ones included), and blocks from it
+// not yet released by zelsFree: a sweep counts what a call allocates and
+// checks that a failing call gives everything back.
+long allocationCallsForTests();
+long liveBlocksForTests();
+
 // Scratch buffer released on every path.
 struct FreeDeleter {
     void operator()(void* p) const { zelsFree(p); }

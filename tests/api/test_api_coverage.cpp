@@ -5,10 +5,11 @@
 #include <cstdio>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
+
+#include "harness/declared.h"
 
 namespace {
 
@@ -47,18 +48,6 @@ std::set<std::string> exportedSymbols() {
     return names;
 }
 
-std::set<std::string> declaredFunctions() {
-    std::ifstream in(ZELI_HEADER);
-    std::stringstream text;
-    text << in.rdbuf();
-    const std::string header = text.str();
-    const std::regex declaration(R"(ZELAPI[^;(]*\b(zel\w+)\s*\()");
-    std::set<std::string> names;
-    for (std::sregex_iterator it(header.begin(), header.end(), declaration), end; it != end; ++it)
-        names.insert((*it)[1]);
-    return names;
-}
-
 TEST(ApiCoverage, ExportsOnlyListedApiNames) {
     const auto list = readFunctionList();
     const auto exported = exportedSymbols();
@@ -73,7 +62,7 @@ TEST(ApiCoverage, ExportsOnlyListedApiNames) {
 
 TEST(ApiCoverage, HeaderDeclaresExactlyWhatIsExported) {
     const auto exported = exportedSymbols();
-    const auto declared = declaredFunctions();
+    const auto declared = zel::test::declaredFunctions(ZELI_HEADER);
     ASSERT_FALSE(declared.empty());
     for (const auto& name : declared) EXPECT_TRUE(exported.count(name)) << name << " is declared, not exported";
     for (const auto& name : exported) EXPECT_TRUE(declared.count(name)) << name << " is exported, not declared";

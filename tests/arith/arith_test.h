@@ -79,7 +79,7 @@ inline i128 scaledQuotient(i128 num, i128 den, int s, int mode) {
     const i128 big = i128{1} << 100;
     if (den < 0) num = -num, den = -den;
     for (; s < 0; ++s) {
-        if (num > big || num < -big) return num;
+        if (num == 0 || num > big || num < -big) return num;
         num *= 2;
     }
     for (; s > 0; --s) {

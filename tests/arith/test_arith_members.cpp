@@ -2,6 +2,8 @@
 // guarded buffers, every SIMD target, one and four threads, in place and out
 // of place; long rows with the types' extremes at scale factors that reach
 // every band; long rows cut into pieces among threads.
+#include <climits>
+
 #include "arith/arith_test.h"
 #include "core/parallel.h"
 #include "harness/sweep.h"
@@ -33,6 +35,16 @@ TEST(ArithMembers, EveryMember16s) { checkEveryMember<Zel16s>({-31, -16, -15, -2
 TEST(ArithMembers, EveryMemberComplex) {
     checkEveryMember<Zel16sc>({-33, -17, 0, 1, 17, 32, 33});
     checkEveryMember<Zel32sc>({-33, 0, 1, 33, 64});
+}
+// Scale factors at the ends of the int range: every non-zero result
+// saturates (INT_MIN has no negation in an int) or rounds to 0.
+TEST(ArithMembers, ScaleFactorsAtTheEndsOfTheIntRange) {
+    const auto extremes = {INT_MIN, INT_MIN + 1, -1000, 1000, INT_MAX};
+    checkEveryMember<Zel8u>(extremes);
+    checkEveryMember<Zel16u>(extremes);
+    checkEveryMember<Zel16s>(extremes);
+    checkEveryMember<Zel16sc>(extremes);
+    checkEveryMember<Zel32sc>(extremes);
 }
 TEST(ArithMembers, EveryMemberFloat) {
     checkEveryMember<Zel32f>({0});

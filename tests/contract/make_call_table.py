@@ -1,0 +1,228 @@
+#!/usr/bin/env python3
+"""Writes the call table of the contract sweep from the public header.
+
+Every function the header declares becomes one entry: a thunk that calls it
+with arguments taken from a sweep context (tests/contract/sweep_context.h),
+and a description of its image operands that the sweep uses to lay out
+guarded buffers. Each argument is derived from its parameter name and type;
+the library frame (allocator, threads, version, constants) has a small table
+of its own. A declaration this script cannot read, or a parameter it does
+not know, stops the build: no function is left out silently.
+
+usage: make_call_table.py include/zeli.h out.inc
+"""
+import os
+import re
+import sys
+
+ELEMENTS = {  # type suffix: (C type, bytes, floating point)
+    '8u': ('Zel8u', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
+    '32s': ('Zel32s', 4, False), '32f': ('Zel32f', 4, True), '16sc': ('Zel16sc', 4, False),
+    '32sc': ('Zel32sc', 8, False), '32fc': ('Zel32fc', 8, True),
+}
+
+# Families that check their steps; the others trust them (see the header's
+# family comments). A callable takes (type suffix, layout).
+STEP_CHECKS = {
+    'Set': lambda t, lay: False,
+    'Copy': lambda t, lay: False,
+    'CopyManaged': lambda t, lay: False,
+    'Dup': lambda t, lay: False,
+    'Transpose': lambda t, lay: False,
+    'SwapChannels': lambda t, lay: lay in ('C3', 'AC4', 'C3I', 'C4I'),
+    'MulScale': lambda t, lay: True,
+    'MulCScale': lambda t, lay: True,
+    'Div': lambda t, lay: True,
+    'Div_Round': lambda t, lay: True,
+    'DivC': lambda t, lay: True,
+}
+for fam in ('Add', 'AddC', 'Sub', 'SubC', 'Mul', 'MulC'):
+    STEP_CHECKS[fam] = lambda t, lay: t in ('16sc', '32fc')
+
+# The library frame: functions without image operands.
+FRAME = [
+    (r'zeliMalloc_(\w+)_(C1|C2|C3|C4|AC4)$', 'malloc'),
+    (r'zeliFree$', 'free'),
+    (r'zelSetNumThreads$', 'setThreads'),
+    (r'zelGetNumThreads$', 'getIntOut'),
+    (r'zelGetMaxCacheSizeB$', 'getIntOut'),
+    (r'zeliGetLibVersion$', 'version'),
+    (r'zelConstantOfNAN_(32f|64f)$', 'nan'),
+]
+
+STEP_OF = {'pSrc': 'srcStep', 'pSrc1': 'src1Step', 'pSrc2': 'src2Step', 'pDst': 'dstStep',
+           'pSrcDst': 'srcDstStep', 'pMask': 'maskStep'}
+
+
+def fail(message):
+    sys.exit('make_call_table.py: ' + message)
+
+
+def layout_parts(layout):
+    """'C3P3' -> ['C3', 'P3']; a trailing C (channel of interest) is kept apart."""
+    coi = layout.endswith('C') and not re.fullmatch(r'(AC4|C\d|P\d)+', layout)
+    body = layout[:-1] if coi else layout
+    parts = re.findall(r'AC4|C\d|P\d', body)
+    if ''.join(parts) != body or not parts:
+        fail('layout %s not understood' % layout)
+    return parts, coi
+
+
+def operand(part, role, coi, family, order_len):
+    """(channels, writable-channel mask, channel offset, planes) of one operand."""
+    n = int(part[-1])
+    if part.startswith('P'):
+        return 1, 1, 0, n
+    if part == 'AC4':
+        return 4, 0b0111, 0, 0
+    if coi:
+        return n, 0b0010, 1, 0  # the pointer addresses channel 1
+    return n, (1 << n) - 1, 0, 0
+
+
+def image_entry(name, params):
+    m = re.fullmatch(r'zeli(\w+?)_(\d+[a-z]+)_([A-Z0-9]+?)(M?)(I?)R(Sfs)?', name)
+    if not m:
+        fail('cannot read the name ' + name)
+    family, tsuf, layout, masked, inplace = m.group(1), m.group(2), m.group(3), m.group(4), m.group(5)
+    if tsuf not in ELEMENTS:
+        fail('element type %s of %s unknown' % (tsuf, name))
+    ctype, ebytes, isfloat = ELEMENTS[tsuf]
+    if family not in STEP_CHECKS:
+        fail('family %s of %s has no step rule here' % (family, name))
+    parts, coi = layout_parts(layout)
+    src_part, dst_part = parts[0], parts[-1]
+    # Copy C1C3/C1C4 writes one channel (pDst points at it); C3C1/C4C1 read one.
+    one_channel_dst = family == 'Copy' and src_part == 'C1' and dst_part in ('C3', 'C4')
+    one_channel_src = family == 'Copy' and dst_part == 'C1' and src_part in ('C3', 'C4')
+
+    ops, args, nulls, steps = [], [], [], []
+    rnd = False
+    order = 0
+    for ptype, pname, arr in params:
+        base = pname
+        if base in STEP_OF:
+            idx = len(ops)
+            is_dst = base in ('pDst', 'pSrcDst')
+            if base == 'pMask':
+                ch, wmask, coff, planes, el, fl, is_dst = 1, 0, 0, 0, 1, False, False
+            else:
+                part = dst_part if is_dst else src_part
+                ch, wmask, coff, planes = operand(part, is_dst, coi, family, 0)
+                if is_dst and one_channel_dst:
+                    wmask, coff = 0b0010, 1
+                if not is_dst and one_channel_src:
+                    coff = 1
+                if family == 'SwapChannels' and layout == 'C3C4' and is_dst:
+                    wmask = 0b1111 if tsuf == '8u' else 0b0111  # order {2,1,0,3}
+                if not is_dst:
+                    wmask = 0
+                el, fl = ebytes, isfloat
+            if planes and not arr:
+                fail('%s: planar operand %s is not an array' % (name, pname))
+            transposed = family == 'Transpose' and is_dst and not inplace
+            ops.append('{"%s", %d, %d, %d, %d, %d, %s, %s, %s, "%s"}' % (
+                pname, el, ch, wmask, coff, planes, 'true' if is_dst else 'false',
+                'true' if fl else 'false', 'true' if transposed else 'false', STEP_OF[base]))
+            cast = ('const ' if ptype.startswith('const') else '') + (ctype if base != 'pMask' else 'Zel8u')
+            if planes:
+                args.append('c.planes<%s>(%d)' % (cast, idx))
+                nulls.append('{"%s", %d, -1}' % (pname, idx))
+                for k in range(planes):
+                    nulls.append('{"%s[%d]", %d, %d}' % (pname, k, idx, k))
+            else:
+                args.append('c.ptr<%s>(%d)' % (cast, idx))
+                nulls.append('{"%s", %d, -1}' % (pname, idx))
+            continue
+        if pname.endswith('Step'):
+            owners = [i for i, o in enumerate(ops) if o.endswith('"%s"}' % pname)]
+            if len(owners) != 1:
+                fail('%s: step %s belongs to no image operand' % (name, pname))
+            args.append('c.step(%d)' % owners[0])
+            steps.append(owners[0])
+            continue
+        if pname in ('roi', 'roiSize') and ptype == 'ZeliSize':
+            args.append('c.roi')
+        elif pname == 'value' and arr is not None:
+            args.append('c.values<%s>()' % ctype)
+            nulls.append('{"value[]", -2, -1}')
+        elif pname == 'value':
+            args.append('c.scalar<%s>()' % ctype)
+        elif pname == 'val' and ptype == 'Zel8u':
+            args.append('c.val')
+        elif pname == 'scaleFactor' and ptype == 'int':
+            args.append('c.scaleFactor')
+        elif pname == 'rndMode' and ptype == 'ZelRoundingMode':
+            args.append('static_cast<ZelRoundingMode>(c.rndMode)')
+            rnd = True
+        elif pname == 'dstOrder' and ptype == 'const int':
+            order = int(arr)
+            args.append('c.order()')
+            nulls.append('{"dstOrder", -3, -1}')
+        elif pname == 'flags' and ptype == 'int':
+            args.append('c.flags')
+        else:
+            fail('%s: parameter "%s %s" has no rule' % (name, ptype, pname))
+    if len(steps) != len(ops):
+        fail('%s: %d image operands but %d steps' % (name, len(ops), len(steps)))
+    layout_key = layout + ('I' if inplace else '')
+    checks_steps = STEP_CHECKS[family](tsuf, layout_key)
+    square = family == 'Transpose' and inplace == 'I'
+    return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %d, %s, %s,\n'
+            ' [](SweepContext& c) -> int { return %s(%s); }},\n') % (
+        name, family, ', '.join(ops), ', '.join(nulls), ', '.join(str(s) for s in steps),
+        'true' if checks_steps else 'false', 'true' if rnd else 'false', order,
+        'true' if square else 'false', '"%s"' % layout, name, ', '.join(args))
+
+
+def frame_entry(name, ret, kind):
+    if kind == 'malloc':
+        m = re.fullmatch(FRAME[0][0], name)
+        ctype, ebytes, _ = ELEMENTS[m.group(1)] if m.group(1) in ELEMENTS else fail('type of ' + name)
+        channels = 4 if m.group(2) == 'AC4' else int(m.group(2)[-1])
+        return ('{"%s", FrameKind::malloc, %d, reinterpret_cast<void (*)()>('
+                'static_cast<void* (*)(int, int, int*)>([](int w, int h, int* s) -> void* '
+                '{ return %s(w, h, s); }))},\n') % (name, ebytes * channels, name)
+    if kind == 'nan':
+        return ('{"%s", FrameKind::nan, 0, reinterpret_cast<void (*)()>('
+                'static_cast<bool (*)()>([] { auto v = %s(); return v != v; }))},\n') % (name, name)
+    signature = {'free': 'void (*)(void*)', 'setThreads': 'ZelStatus (*)(int)',
+                 'getIntOut': 'ZelStatus (*)(int*)', 'version': 'const ZelLibraryVersion* (*)()'}[kind]
+    return '{"%s", FrameKind::%s, 0, reinterpret_cast<void (*)()>(static_cast<%s>(&%s))},\n' % (
+        name, kind, signature, name)
+
+
+def main():
+    header, out = sys.argv[1], sys.argv[2]
+    text = open(header).read()
+    text = re.sub(r'/\*.*?\*/', '', text, flags=re.S)
+    declared = re.findall(r"^ZELAPI\b([^;]*);", text, flags=re.M)
+    images, frames = [], []
+    for decl in declared:
+        m = re.fullmatch(r'\s*(.*?)\b(zel\w+)\s*\((.*)\)\s*', decl, re.S)
+        if not m:
+            fail('cannot read the declaration ' + ' '.join(decl.split()))
+        ret, name, plist = m.group(1).strip(), m.group(2), ' '.join(m.group(3).split())
+        kind = next((k for rx, k in FRAME if re.fullmatch(rx, name)), None)
+        if kind:
+            frames.append(frame_entry(name, ret, kind))
+            continue
+        if ret != 'ZelStatus':
+            fail('%s returns %s, which the sweep cannot judge' % (name, ret))
+        params = []
+        for p in plist.split(','):
+            pm = re.fullmatch(r'\s*(.+?)\s*\b(\w+)\s*(?:\[(\d*)\])?\s*', p)
+            if not pm:
+                fail('%s: parameter "%s" not understood' % (name, p))
+            ptype = re.sub(r'[\s*]*(const)?[\s*]*$', '', pm.group(1)).strip()
+            params.append((ptype, pm.group(2), pm.group(3)))
+        images.append(image_entry(name, params))
+    os.makedirs(os.path.dirname(os.path.abspath(out)), exist_ok=True)
+    with open(out, "w") as f:
+        f.write('// Written by tests/contract/make_call_table.py from include/zeli.h.\n')
+        f.write('const std::vector<CallEntry> kCalls = {\n%s};\n' % ''.join(images))
+        f.write('const std::vector<FrameEntry> kFrame = {\n%s};\n' % ''.join(frames))
+
+
+if __name__ == '__main__':
+    main()

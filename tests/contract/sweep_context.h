@@ -1,0 +1,352 @@
+// Arguments of one sweep call and the guarded buffers behind its images.
+//
+// The call table (written at build time by make_call_table.py) describes each
+// function's image operands and calls it with arguments taken from a
+// SweepContext: operand pointers and steps, the ROI, constants, the scale
+// factor, the rounding mode, the channel order. A context lays out every
+// image inside a buffer with at least kMargin pixels (and kMargin rows) of
+// random bytes around the ROI (or, for tight rows that a call may treat as
+// one long row, kMargin rows above and below only), remembers every byte, and can break one
+// argument at a time (a null pointer, a step) for the rejection cases.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstdint>
+#include <cstring>
+#include <iterator>
+#include <random>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "zeli.h"
+
+namespace zel::contract {
+
+struct OperandInfo {
+    const char* param;
+    int elemBytes;     // bytes of one channel element
+    int channels;      // elements per pixel (1 for each plane of a planar operand)
+    int writableMask;  // channels of a ROI pixel the call may write (bit k: channel k)
+    int channelOffset; // the pointer addresses this channel of the first pixel
+    int planes;        // 0: interleaved; 3 or 4: that many planes sharing one step
+    bool dst;
+    bool isFloat;
+    bool transposed;   // roi.height wide and roi.width high
+    const char* stepName;
+};
+
+// A pointer the rejection cases set to null: operand index (or -2 for the
+// constant array, -3 for the channel order) and plane (-1: the pointer or
+// the plane array itself).
+struct NullCase {
+    const char* what;
+    int operand;
+    int plane;
+};
+
+class SweepContext;
+
+struct CallEntry {
+    const char* name;
+    const char* family;
+    std::vector<OperandInfo> ops;
+    std::vector<NullCase> nulls;
+    std::vector<int> steps;  // the operand each step argument belongs to, in order
+    bool checksSteps;
+    bool hasRndMode;
+    int orderLength;  // entries of dstOrder, 0 when there is none
+    bool squareRoi;   // in-place transposition: square ROIs only
+    const char* layout;
+    int (*call)(SweepContext&);
+};
+
+enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan };
+
+struct FrameEntry {
+    const char* name;
+    FrameKind kind;
+    int pixelBytes;  // zeliMalloc_*: bytes of one pixel
+    void (*fn)();    // the function, cast back according to kind
+};
+
+// How the buffers of one call are laid out.
+struct Geometry {
+    ZeliSize roi{7, 5};
+    int padElements = 3;     // extra elements at the end of every row
+    int offsetElements = 1;  // extra elements before the ROI's first pixel
+    bool tight = false;      // rows follow one another (no margin left and right, no padding)
+    bool upward = false;     // pointers at the last ROI row and negated steps (same bytes)
+    std::uint32_t seed = 1;
+};
+
+class SweepContext {
+public:
+    static constexpr int kMargin = 16;  // pixels left and right, rows above and below
+
+    // Arguments the thunks read.
+    ZeliSize roi{};
+    int scaleFactor = 1;
+    int rndMode = 1;
+    int flags = 0;
+    Zel8u val = 200;
+
+    void setup(const CallEntry& entry, const Geometry& g) {
+        entry_ = &entry;
+        roi = g.roi;
+        nullOperand_ = nullPlane_ = -100;
+        aliasSource_ = aliasTarget_ = -1;
+        std::mt19937 rng(g.seed);
+        ops_.assign(entry.ops.size(), {});
+        for (std::size_t i = 0; i < entry.ops.size(); ++i) {
+            const OperandInfo& info = entry.ops[i];
+            Buffers& b = ops_[i];
+            b.width = info.transposed ? g.roi.height : g.roi.width;
+            b.height = info.transposed ? g.roi.width : g.roi.height;
+            b.pixelBytes = info.elemBytes * info.channels;
+            const int side = g.tight ? 0 : kMargin;
+            b.step = (b.width + 2 * side) * b.pixelBytes + (g.tight ? 0 : g.padElements * info.elemBytes);
+            b.offset = std::ptrdiff_t{kMargin} * b.step + side * b.pixelBytes +
+                       (g.offsetElements + info.channelOffset) * info.elemBytes;
+            b.stepArg = g.upward ? -b.step : b.step;
+            b.pointerOffset = b.offset + (g.upward ? std::ptrdiff_t{b.height - 1} * b.step : 0);
+            const std::size_t bytes = std::size_t(b.step) * (b.height + 2 * kMargin) +
+                                      std::size_t(g.offsetElements + 1) * info.elemBytes;
+            b.planes.assign(std::max(info.planes, 1), {});
+            for (auto& p : b.planes) {
+                p.resize(bytes);
+                fillRandom(p, rng, info, std::strcmp(info.param, "pMask") == 0);
+            }
+        }
+        std::uniform_int_distribution<int> small(1, 100);
+        for (auto& v : constants_) v = small(rng);
+        if (entry.orderLength == 4) {
+            // C3C4: {2, 1, 0, 3} (the fourth entry fills the channel); C4IR: {3, 2, 1, 0}
+            if (std::strcmp(entry.layout, "C3C4") == 0) order_ = {2, 1, 0, 3};
+            else order_ = {3, 2, 1, 0};
+        } else {
+            order_ = {2, 1, 0, 0};
+        }
+        snapshot();
+    }
+
+    // Random argument values for the seeded mode (constants never zero).
+    void randomizeArguments(std::mt19937& rng) {
+        // Mostly small constants and scale factors inside the band where
+        // results vary; one draw in five reaches the extremes.
+        const bool extreme = rng() % 5 == 0;
+        std::uniform_int_distribution<int> constant(-300, 300);
+        for (auto& v : constants_) {
+            do v = extreme ? static_cast<int>(rng()) : constant(rng);
+            while (v == 0);
+        }
+        static constexpr int kExtremeScales[] = {INT_MIN, INT_MIN + 1, -1000, -64, -33, -32, -31, -17,
+                                                 31, 32, 33, 63, 64, 1000, INT_MAX};
+        scaleFactor = extreme ? kExtremeScales[rng() % std::size(kExtremeScales)]
+                              : std::uniform_int_distribution<int>(-4, 34)(rng);
+        rndMode = std::uniform_int_distribution<int>(0, 2)(rng);
+        flags = static_cast<int>(rng());
+        val = static_cast<Zel8u>(rng());
+        if (entry_->orderLength > 0) {
+            const bool fourIn = std::strcmp(entry_->layout, "C4") == 0 || std::strcmp(entry_->layout, "C4C3") == 0;
+            // C3C4 entries above 2 fill the channel (3, 8u) or keep it.
+            const int range = std::strcmp(entry_->layout, "C3C4") == 0 ? 6 : fourIn ? 4 : 3;
+            for (int k = 0; k < entry_->orderLength; ++k)
+                order_[k] = std::uniform_int_distribution<int>(0, range - 1)(rng);
+        }
+    }
+
+    // The thunks' view.
+    template <class T>
+    T* ptr(int i) {
+        if (nullOperand_ == i) return nullptr;
+        if (i == aliasSource_) i = aliasTarget_;
+        return reinterpret_cast<T*>(ops_[i].planes[0].data() + ops_[i].pointerOffset);
+    }
+    template <class T>
+    T* const* planes(int i) {
+        if (nullOperand_ == i && nullPlane_ < 0) return nullptr;
+        auto& arr = planePtrs_[i];
+        for (std::size_t k = 0; k < ops_[i].planes.size(); ++k)
+            arr[k] = nullOperand_ == i && nullPlane_ == int(k) ? nullptr : ops_[i].planes[k].data() + ops_[i].pointerOffset;
+        return reinterpret_cast<T* const*>(arr.data());
+    }
+    int step(int i) const { return ops_[i == aliasSource_ ? aliasTarget_ : i].stepArg; }
+
+    // Source operand `source` passed with the pointer and step of operand
+    // `target` (both laid out alike); -1 ends it.
+    void alias(int source, int target) {
+        aliasSource_ = source;
+        aliasTarget_ = target;
+    }
+    // The source gets the destination's bytes, as the aliased call sees them.
+    void copyOperand(int from, int to) {
+        ops_[to].planes = ops_[from].planes;
+        ops_[to].before = ops_[from].before;
+    }
+    bool sameLayout(int a, int b) const {
+        return ops_[a].planes.size() == ops_[b].planes.size() && ops_[a].step == ops_[b].step &&
+               ops_[a].offset == ops_[b].offset && ops_[a].planes[0].size() == ops_[b].planes[0].size();
+    }
+    const std::vector<std::uint8_t>& operandBytes(int i) const { return ops_[i].planes[0]; }
+    template <class T>
+    T scalar() const {
+        return element<T>(0);
+    }
+    template <class T>
+    const T* values() {
+        if (nullOperand_ == -2) return nullptr;
+        T* out = reinterpret_cast<T*>(valueStore_);
+        for (int k = 0; k < 4; ++k) out[k] = element<T>(k);
+        return out;
+    }
+    const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
+
+    // Breaking one argument.
+    void setNull(const NullCase& n) {
+        nullOperand_ = n.operand;
+        nullPlane_ = n.plane;
+    }
+    void setStep(int operand, int step) { ops_[operand].stepArg = step; }
+    int naturalStep(int operand) const { return ops_[operand].step; }
+    bool upward() const { return !ops_.empty() && ops_[0].stepArg < 0; }
+    void setOrderEntry(int k, int v) { order_[k] = v; }
+    std::array<int, 4> orderEntries() const { return order_; }
+
+    // Checks against the snapshot taken by setup().
+    void snapshot() {
+        for (auto& b : ops_) b.before = b.planes;
+    }
+    bool unchanged() const {
+        for (const auto& b : ops_)
+            if (b.planes != b.before) return false;
+        return true;
+    }
+    // Empty when only the writable channels of destination ROI pixels
+    // changed; otherwise where the first stray byte lies.
+    std::string strayWrite() const {
+        for (std::size_t i = 0; i < ops_.size(); ++i) {
+            const OperandInfo& info = entry_->ops[i];
+            const Buffers& b = ops_[i];
+            for (std::size_t p = 0; p < b.planes.size(); ++p) {
+                std::vector<bool> mine(b.planes[p].size(), false);
+                if (info.dst) {
+                    const int writable = writableMask(info);
+                    const std::ptrdiff_t first = b.offset - std::ptrdiff_t{info.channelOffset} * info.elemBytes;
+                    for (int y = 0; y < b.height; ++y)
+                        for (int x = 0; x < b.width; ++x)
+                            for (int c = 0; c < info.channels && maskSelects(x, y); ++c)
+                                if (writable >> c & 1) {
+                                    const std::ptrdiff_t at = first + std::ptrdiff_t{y} * b.step +
+                                                              std::ptrdiff_t{x} * b.pixelBytes + c * info.elemBytes;
+                                    std::fill_n(mine.begin() + at, info.elemBytes, true);
+                                }
+                }
+                for (std::size_t k = 0; k < mine.size(); ++k)
+                    if (!mine[k] && b.planes[p][k] != b.before[p][k]) {
+                        const std::ptrdiff_t rel = std::ptrdiff_t(k) - b.offset;
+                        return std::string(info.param) + (b.planes.size() > 1 ? "[" + std::to_string(p) + "]" : "") +
+                               ": byte " + std::to_string(rel) + " from the ROI start (row " +
+                               std::to_string(rel >= 0 ? rel / b.step : -((-rel + b.step - 1) / b.step)) +
+                               ") changed";
+                    }
+            }
+        }
+        return {};
+    }
+    // Every byte of every operand, for comparing runs.
+    std::vector<std::uint8_t> contents() const {
+        std::vector<std::uint8_t> all;
+        for (const auto& b : ops_)
+            for (const auto& p : b.planes) all.insert(all.end(), p.begin(), p.end());
+        return all;
+    }
+
+    std::string describe() const {
+        std::string s = std::string(entry_->name) + " roi " + std::to_string(roi.width) + "x" +
+                        std::to_string(roi.height) + " steps";
+        for (const auto& b : ops_) s += " " + std::to_string(b.stepArg);
+        if (upward()) s += " (upward)";
+        s += " scaleFactor " + std::to_string(scaleFactor);
+        s += " constants";
+        for (int v : constants_) s += " " + std::to_string(v);
+        if (entry_->hasRndMode) s += " rndMode " + std::to_string(rndMode);
+        if (entry_->orderLength > 0) {
+            s += " order";
+            for (int k = 0; k < entry_->orderLength; ++k) s += " " + std::to_string(order_[k]);
+        }
+        return s;
+    }
+
+private:
+    struct Buffers {
+        std::vector<std::vector<std::uint8_t>> planes, before;
+        int width = 0, height = 0, pixelBytes = 0, step = 0, stepArg = 0;
+        std::ptrdiff_t offset = 0;         // the first ROI pixel (top row)
+        std::ptrdiff_t pointerOffset = 0;  // where the pointer argument points
+    };
+
+    // Pixels a mask excludes are not the call's to write.
+    bool maskSelects(int x, int y) const {
+        for (std::size_t i = 0; i < ops_.size(); ++i)
+            if (std::strcmp(entry_->ops[i].param, "pMask") == 0)
+                return ops_[i].before[0][ops_[i].offset + std::ptrdiff_t{y} * ops_[i].step + x] != 0;
+        return true;
+    }
+
+    // SwapChannels C3C4: entries 0..2 take a source channel, 3 writes the
+    // fill value (8u only), any other value keeps the destination channel.
+    int writableMask(const OperandInfo& info) const {
+        if (std::strcmp(entry_->layout, "C3C4") != 0 || std::strcmp(entry_->family, "SwapChannels") != 0)
+            return info.writableMask;
+        int mask = 0;
+        for (int k = 0; k < 4; ++k)
+            if ((order_[k] >= 0 && order_[k] <= 2) || (order_[k] == 3 && info.elemBytes == 1)) mask |= 1 << k;
+        return mask;
+    }
+
+    static void fillRandom(std::vector<std::uint8_t>& bytes, std::mt19937& rng, const OperandInfo& info,
+                           bool mask) {
+        std::size_t k = 0;
+        if (info.isFloat) {
+            std::uniform_real_distribution<float> value(-1000.f, 1000.f);
+            for (; k + 4 <= bytes.size(); k += 4) {
+                const float f = value(rng);
+                std::memcpy(&bytes[k], &f, 4);
+            }
+        }
+        for (; k < bytes.size(); ++k) {
+            const auto r = static_cast<std::uint32_t>(rng());
+            bytes[k] = mask && (r & 0x100) ? 0 : static_cast<std::uint8_t>(r);
+        }
+    }
+
+    const CallEntry* entry_ = nullptr;
+    std::vector<Buffers> ops_;
+    std::array<std::array<void*, 4>, 8> planePtrs_{};
+    // Constants: element k of a value array is built from constants_[k]
+    // (complex ones from k and k + 4); never zero.
+    template <class T>
+    T element(int k) const {
+        if constexpr (std::is_same_v<T, Zel16sc> || std::is_same_v<T, Zel32sc> || std::is_same_v<T, Zel32fc>) {
+            using Part = decltype(T{}.re);
+            return T{part<Part>(constants_[k]), part<Part>(constants_[k + 4])};
+        } else {
+            return part<T>(constants_[k]);
+        }
+    }
+    template <class P>
+    static P part(int v) {
+        if constexpr (std::is_floating_point_v<P>) return static_cast<P>(v) / 8;
+        else return static_cast<P>(v) != 0 ? static_cast<P>(v) : P(1);
+    }
+    int constants_[8] = {1, 2, 3, 4, 5, 6, 7, 8};
+    alignas(8) std::uint8_t valueStore_[32] = {};
+    std::array<int, 4> order_{};
+    int nullOperand_ = -100, nullPlane_ = -100;
+    int aliasSource_ = -1, aliasTarget_ = -1;
+};
+
+}  // namespace zel::contract

@@ -1,0 +1,470 @@
+// The contract sweep: every function the public header declares, called
+// through a table written from the header at build time, with valid
+// arguments and with each argument broken in turn.
+//
+// Invariants checked for every image function:
+// - a valid call returns 0 or a warning and writes nothing but the writable
+//   channels of its destination's ROI pixels (the margins of random bytes
+//   around every image are compared with a snapshot);
+// - a null pointer, an empty or negative ROI, a non-positive step (where the
+//   family checks steps), a rounding mode or channel order out of range give
+//   the error status the header promises, and no byte of any operand changes;
+// - results are the same under every SIMD target and thread count;
+// - a function that allocates returns zelStatusNoMemory, with nothing
+//   written and every block released, when any of its allocations fails.
+// With ZELI_SWEEP_SECONDS set, random argument sets are drawn for that long
+// (ZELI_SWEEP_SEED replays a run); without it a short seeded run is made.
+#include <gtest/gtest.h>
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/common_interface_defs.h>
+#endif
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "contract/sweep_context.h"
+#include "core/memory.h"
+#include "core/parallel.h"
+#include "core/simd.h"
+#include "harness/declared.h"
+#include "harness/pages.h"
+#include "harness/sweep.h"
+#include "zeli.h"
+
+namespace zel::contract {
+namespace {
+
+#include "contract_calls.inc"
+
+long gCalls = 0;  // calls made by this program, reported at the end
+
+int run(SweepContext& c, const CallEntry& e) {
+    ++gCalls;
+    return e.call(c);
+}
+
+Geometry geometryFor(const CallEntry& e) {
+    Geometry g;
+    if (e.squareRoi) g.roi = {5, 5};
+    return g;
+}
+
+// One broken argument and the status the header promises for it.
+struct Breakage {
+    std::string what;
+    int expected;
+    std::function<void(SweepContext&)> apply;
+};
+
+std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
+    std::vector<Breakage> list;
+    for (const NullCase& n : e.nulls)
+        list.push_back({std::string("null ") + n.what, zelStatusNullPtr, [n](SweepContext& c) { c.setNull(n); }});
+    const ZeliSize sizes[] = {{0, g.roi.height}, {-1, g.roi.height}, {g.roi.width, 0}, {g.roi.width, -3},
+                              {0, 0}, {-7, -5}};
+    for (ZeliSize s : sizes)
+        list.push_back({"roi " + std::to_string(s.width) + "x" + std::to_string(s.height), zelStatusBadSize,
+                        [s](SweepContext& c) { c.roi = s; }});
+    if (e.squareRoi)
+        list.push_back({"non-square roi", zelStatusBadSize, [](SweepContext& c) { c.roi = {c.roi.width, c.roi.height - 1}; }});
+    // Transpose out of place with pSrc == pDst: only a square ROI with equal
+    // steps is defined (in place); anything else is refused.
+    if (std::string(e.family) == "Transpose" && !e.squareRoi && g.roi.width != g.roi.height)
+        list.push_back({"pSrc == pDst, roi not square", zelStatusBadArgument,
+                        [](SweepContext& c) { c.alias(0, 1); }});
+    if (e.checksSteps) {
+        for (std::size_t k = 0; k < e.steps.size(); ++k) {
+            const int op = e.steps[k];
+            const std::string name = e.ops[op].stepName;
+            list.push_back({name + " 0", zelStatusBadStep, [op](SweepContext& c) { c.setStep(op, 0); }});
+            list.push_back({name + " negative", zelStatusBadStep,
+                            [op](SweepContext& c) { c.setStep(op, -c.naturalStep(op)); }});
+        }
+    }
+    if (e.hasRndMode)
+        for (int mode : {3, -1, 1000})
+            list.push_back({"rndMode " + std::to_string(mode), zelStatusBadRoundMode,
+                            [mode](SweepContext& c) { c.rndMode = mode; }});
+    if (e.orderLength > 0) {
+        const std::string lay = e.layout;
+        // C3C4 checks only its first three entries, only for being negative.
+        const bool negativeOnly = lay == "C3C4";
+        const int checked = negativeOnly ? 3 : e.orderLength;
+        const int tooLarge = lay == "C4" || lay == "C4C3" ? 4 : 3;
+        for (int k = 0; k < checked; ++k) {
+            std::vector<int> bad = {-1, -1000};
+            if (!negativeOnly) bad.insert(bad.end(), {tooLarge, 1 << 30});
+            for (int v : bad)
+                list.push_back({"dstOrder[" + std::to_string(k) + "] = " + std::to_string(v),
+                                zelStatusBadChannelOrder, [k, v](SweepContext& c) { c.setOrderEntry(k, v); }});
+        }
+    }
+    return list;
+}
+
+TEST(ContractSweep, TableHoldsEveryDeclaredFunction) {
+    const auto declared = zel::test::declaredFunctions(ZELI_HEADER);
+    std::set<std::string> table;
+    for (const auto& e : kCalls) EXPECT_TRUE(table.insert(e.name).second) << e.name << " twice";
+    for (const auto& f : kFrame) EXPECT_TRUE(table.insert(f.name).second) << f.name << " twice";
+    ASSERT_GT(declared.size(), 600u);
+    for (const auto& name : declared) EXPECT_TRUE(table.count(name)) << name << " has no entry in the sweep";
+    for (const auto& name : table) EXPECT_TRUE(declared.count(name)) << name << " is not declared";
+    std::printf("contract sweep reaches %zu functions (%zu image functions, %zu frame functions)\n",
+                table.size(), kCalls.size(), kFrame.size());
+}
+
+TEST(ContractSweep, ValidCallsWriteOnlyTheirRoi) {
+    SweepContext c;
+    for (const auto& e : kCalls) {
+        c.setup(e, geometryFor(e));
+        const int status = run(c, e);
+        EXPECT_GE(status, 0) << c.describe();
+        const std::string stray = c.strayWrite();
+        EXPECT_TRUE(stray.empty()) << c.describe() << ": " << stray;
+        EXPECT_FALSE(c.unchanged() && status == 0) << c.describe() << ": wrote nothing";
+    }
+}
+
+TEST(ContractSweep, BrokenArgumentsAreRejectedWithNothingWritten) {
+    SweepContext c;
+    long cases = 0;
+    for (const auto& e : kCalls) {
+        const Geometry g = geometryFor(e);
+        for (const Breakage& b : breakagesOf(e, g)) {
+            c.setup(e, g);
+            b.apply(c);
+            const int status = run(c, e);
+            ++cases;
+            EXPECT_EQ(status, b.expected) << c.describe() << " with " << b.what;
+            EXPECT_TRUE(c.unchanged()) << c.describe() << " with " << b.what << ": an operand was written";
+        }
+    }
+    std::printf("%ld broken-argument calls\n", cases);
+}
+
+TEST(ContractSweep, ResultsDoNotDependOnTargetOrThreads) {
+    SweepContext c;
+    test::ConfigGuard restore;
+    for (const auto& e : kCalls) {
+        const Geometry g = geometryFor(e);
+        simd::forceTarget(0);
+        zelSetNumThreads(1);
+        forkEagerlyForTests(false);
+        c.setup(e, g);
+        const int expectedStatus = run(c, e);
+        const auto expected = c.contents();
+        for (std::int64_t target : simd::availableTargets()) {
+            simd::forceTarget(target);
+            for (int threads : {1, 3}) {
+                zelSetNumThreads(threads);
+                forkEagerlyForTests(threads > 1);
+                c.setup(e, g);
+                EXPECT_EQ(run(c, e), expectedStatus) << c.describe() << " " << simd::targetName(target);
+                EXPECT_TRUE(c.contents() == expected)
+                    << c.describe() << ": other result under " << simd::targetName(target) << " with " << threads
+                    << " threads";
+            }
+        }
+    }
+}
+
+TEST(ContractSweep, FailedAllocationsReturnNoMemoryAndLeakNothing) {
+    SweepContext c;
+    test::ConfigGuard restore;
+    int allocating = 0;
+    for (const auto& e : kCalls) {
+        for (int threads : {1, 3}) {
+            zelSetNumThreads(threads);
+            forkEagerlyForTests(threads > 1);
+            const Geometry g = geometryFor(e);
+            c.setup(e, g);
+            const long before = allocationCallsForTests(), live = liveBlocksForTests();
+            run(c, e);
+            const long made = allocationCallsForTests() - before;
+            EXPECT_EQ(liveBlocksForTests(), live) << e.name << " kept a block after a valid call";
+            if (made > 0 && threads == 1) ++allocating;
+            for (long n = 1; n <= made; ++n) {
+                c.setup(e, g);
+                failAllocationForTests(n);
+                const int status = run(c, e);
+                failAllocationForTests(0);
+                EXPECT_EQ(status, zelStatusNoMemory) << c.describe() << " with allocation " << n << " failing";
+                EXPECT_TRUE(c.unchanged()) << c.describe() << " wrote after a failed allocation";
+                EXPECT_EQ(liveBlocksForTests(), live) << c.describe() << " leaked after allocation " << n;
+            }
+        }
+    }
+    std::printf("%d image functions allocate internally\n", allocating);
+}
+
+// Pixelwise members whose source and destination share type and layout
+// accept the destination's own pointer and step as a source: the call then
+// equals one whose source is a separate copy of the destination.
+bool acceptsSourceOnDestination(const CallEntry& e) {
+    static const std::set<std::string> pixelwise = {"Add", "AddC", "Sub", "SubC", "Mul", "MulC", "MulScale",
+                                                     "MulCScale", "Div", "Div_Round", "DivC", "Copy",
+                                                     "CopyManaged", "SwapChannels"};
+    return pixelwise.count(e.family) > 0;
+}
+
+std::vector<std::pair<int, int>> sourceDestinationPairs(const CallEntry& e) {
+    std::vector<std::pair<int, int>> pairs;
+    if (!acceptsSourceOnDestination(e)) return pairs;
+    for (std::size_t d = 0; d < e.ops.size(); ++d) {
+        if (!e.ops[d].dst) continue;
+        for (std::size_t s = 0; s < e.ops.size(); ++s) {
+            const OperandInfo &a = e.ops[s], &b = e.ops[d];
+            if (a.dst || std::string(a.param) == "pMask") continue;
+            if (a.elemBytes == b.elemBytes && a.channels == b.channels && a.planes == b.planes &&
+                a.channelOffset == b.channelOffset && !b.transposed)
+                pairs.push_back({int(s), int(d)});
+        }
+    }
+    return pairs;
+}
+
+void checkSourceOnDestination(SweepContext& c, const CallEntry& e, const Geometry& g,
+                              const std::function<void(SweepContext&)>& arguments, std::string* fault) {
+    for (auto [src, dst] : sourceDestinationPairs(e)) {
+        c.setup(e, g);
+        arguments(c);
+        if (!c.sameLayout(src, dst)) continue;
+        c.copyOperand(dst, src);
+        const int expectedStatus = run(c, e);
+        const auto expected = c.operandBytes(dst);
+        c.setup(e, g);
+        arguments(c);
+        c.alias(src, dst);
+        const int status = run(c, e);
+        if (status != expectedStatus || c.operandBytes(dst) != expected) {
+            *fault = c.describe() + " with " + e.ops[src].param + " on " + e.ops[dst].param +
+                     ": differs from a separate source with the same bytes (status " + std::to_string(status) +
+                     ", expected " + std::to_string(expectedStatus) + ")";
+            return;
+        }
+    }
+}
+
+TEST(ContractSweep, SourceOnTheDestinationEqualsASeparateCopy) {
+    SweepContext c;
+    int members = 0;
+    for (const auto& e : kCalls) {
+        if (sourceDestinationPairs(e).empty()) continue;
+        ++members;
+        std::string fault;
+        checkSourceOnDestination(c, e, geometryFor(e), [](SweepContext&) {}, &fault);
+        EXPECT_TRUE(fault.empty()) << fault;
+    }
+    std::printf("%d members take a source on their destination\n", members);
+}
+
+// ---- The library frame ----------------------------------------------------
+
+template <class F>
+F as(const FrameEntry& f) {
+    return reinterpret_cast<F>(f.fn);
+}
+
+TEST(ContractSweep, FrameFunctionsKeepTheirContracts) {
+    test::ConfigGuard restore;
+    for (const auto& f : kFrame) {
+        SCOPED_TRACE(f.name);
+        ++gCalls;
+        switch (f.kind) {
+            case FrameKind::malloc: {
+                auto alloc = as<void* (*)(int, int, int*)>(f);
+                const long live = liveBlocksForTests();
+                int step = -1;
+                const long calls = allocationCallsForTests();
+                void* p = alloc(7, 5, &step);
+                ASSERT_NE(p, nullptr);
+                EXPECT_EQ(allocationCallsForTests() - calls, 1) << "allocation not counted";
+                EXPECT_EQ(reinterpret_cast<std::uintptr_t>(p) % 32, 0u);
+                EXPECT_GE(step, 7 * f.pixelBytes);
+                EXPECT_EQ(step % 32, 0);
+                std::memset(p, 0xa5, std::size_t(step) * 5);  // every byte belongs to the caller
+                zeliFree(p);
+                EXPECT_EQ(alloc(7, 5, nullptr), nullptr);
+                for (ZeliSize s : {ZeliSize{0, 5}, ZeliSize{7, 0}, ZeliSize{-1, 5}, ZeliSize{7, -1}}) {
+                    step = -1;
+                    EXPECT_EQ(alloc(s.width, s.height, &step), nullptr);
+                    EXPECT_EQ(step, 0);
+                }
+                failAllocationForTests(1);
+                step = -1;
+                void* q = alloc(7, 5, &step);
+                failAllocationForTests(0);
+                EXPECT_EQ(q, nullptr) << "allocation failure not passed on";
+                zeliFree(q);
+                EXPECT_EQ(liveBlocksForTests(), live);
+                gCalls += 8;
+                break;
+            }
+            case FrameKind::free: {
+                auto release = as<void (*)(void*)>(f);
+                const long live = liveBlocksForTests();
+                release(nullptr);
+                int step = 0;
+                release(zeliMalloc_8u_C1(3, 3, &step));
+                EXPECT_EQ(liveBlocksForTests(), live);
+                gCalls += 2;
+                break;
+            }
+            case FrameKind::setThreads: {
+                auto set = as<ZelStatus (*)(int)>(f);
+                EXPECT_EQ(set(0), zelStatusBadArgument);
+                EXPECT_EQ(set(-1), zelStatusBadArgument);
+                EXPECT_EQ(set(3), zelStatusOk);
+                int n = 0;
+                zelGetNumThreads(&n);
+                EXPECT_EQ(n, 3);
+                EXPECT_EQ(set(ZEL_MAX_THREADS + 5), zelStatusOk);
+                zelGetNumThreads(&n);
+                EXPECT_EQ(n, ZEL_MAX_THREADS);
+                gCalls += 3;
+                break;
+            }
+            case FrameKind::getIntOut: {
+                auto get = as<ZelStatus (*)(int*)>(f);
+                EXPECT_EQ(get(nullptr), zelStatusNullPtr);
+                int v = -1;
+                EXPECT_EQ(get(&v), zelStatusOk);
+                EXPECT_GE(v, 0);
+                ++gCalls;
+                break;
+            }
+            case FrameKind::version: {
+                auto version = as<const ZelLibraryVersion* (*)()>(f);
+                const ZelLibraryVersion* v = version();
+                ASSERT_NE(v, nullptr);
+                EXPECT_EQ(version(), v);
+                ++gCalls;
+                break;
+            }
+            case FrameKind::nan:
+                EXPECT_TRUE(as<bool (*)()>(f)());
+                break;
+        }
+    }
+}
+
+// ---- Random argument sets -----------------------------------------------
+
+TEST(ContractSweep, RandomArgumentSets) {
+    const char* secondsText = std::getenv("ZELI_SWEEP_SECONDS");
+    const char* seedText = std::getenv("ZELI_SWEEP_SEED");
+    const double seconds = secondsText ? std::atof(secondsText) : 0;
+    const std::uint32_t seed =
+        seedText ? static_cast<std::uint32_t>(std::strtoul(seedText, nullptr, 0))
+                 : secondsText ? static_cast<std::uint32_t>(std::random_device{}()) : 20261122u;
+    // Without a time budget: a short fixed run, part of every test pass.
+    const long draws = secondsText ? -1 : 600;
+    std::printf("random sweep seed %u (ZELI_SWEEP_SEED=%u replays it)\n", seed, seed);
+    std::fflush(stdout);
+#if defined(__SANITIZE_ADDRESS__)
+    __sanitizer_set_death_callback(+[] { std::fprintf(stderr, "\n*** during: %s\n", test::detail::faultCase); });
+#endif
+    test::ConfigGuard restore;
+    const auto targets = simd::availableTargets();
+    const auto start = std::chrono::steady_clock::now();
+    SweepContext c;
+    long made = 0, failures = 0, tightDraws = 0, upwardDraws = 0;
+    for (long i = 0; draws < 0 || i < draws; ++i) {
+        if (draws < 0 && std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count() >= seconds)
+            break;
+        std::mt19937 rng(seed + static_cast<std::uint32_t>(i) * 0x9e3779b9u);
+        const CallEntry& e = kCalls[std::uniform_int_distribution<std::size_t>(0, kCalls.size() - 1)(rng)];
+        Geometry g;
+        std::uniform_int_distribution<int> side(1, 40);
+        g.roi = {side(rng), side(rng)};
+        if (e.squareRoi) g.roi.height = g.roi.width;
+        g.padElements = std::uniform_int_distribution<int>(0, 40)(rng);
+        g.offsetElements = std::uniform_int_distribution<int>(0, 31)(rng);
+        g.tight = rng() % 4 == 0;
+        // Families that trust their steps walk a negative step upwards.
+        const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && rng() % 3 == 0;
+        g.seed = static_cast<std::uint32_t>(rng());
+        const int threads = std::uniform_int_distribution<int>(1, 4)(rng);
+        const std::int64_t target = targets[std::uniform_int_distribution<std::size_t>(0, targets.size() - 1)(rng)];
+        const std::uint32_t argSeed = static_cast<std::uint32_t>(rng());
+
+        // Reference: one thread, the best target, the fork rule as it is.
+        auto prepare = [&] {
+            c.setup(e, g);
+            std::mt19937 args(argSeed);
+            c.randomizeArguments(args);
+            c.snapshot();
+        };
+        simd::forceTarget(0);
+        zelSetNumThreads(1);
+        forkEagerlyForTests(false);
+        prepare();
+        const int refStatus = test::guardedCall("reference run of draw " + std::to_string(i) + " of seed " +
+                                                    std::to_string(seed) + ": " + c.describe(),
+                                                [&] { return run(c, e); });
+        const auto reference = c.contents();
+
+        simd::forceTarget(target);
+        zelSetNumThreads(threads);
+        forkEagerlyForTests(threads > 1 && (rng() & 1));
+        g.upward = upward;
+        tightDraws += g.tight;
+        upwardDraws += upward;
+        prepare();
+        g.upward = false;
+        const std::string what = "draw " + std::to_string(i) + " of seed " + std::to_string(seed) + ": " +
+                                 c.describe() + ", " + simd::targetName(target) + ", " + std::to_string(threads) +
+                                 " threads";
+        const int status = test::guardedCall(what, [&] { return run(c, e); });
+        made += 2;
+        std::string fault;
+        if (status < 0) fault = "status " + std::to_string(status) + " for a valid call";
+        else if (status != refStatus) fault = "status " + std::to_string(status) + ", one thread gave " + std::to_string(refStatus);
+        else if (std::string stray = c.strayWrite(); !stray.empty()) fault = stray;
+        else if (c.contents() != reference) fault = "result differs from the one-thread run";
+
+        if (fault.empty())
+            checkSourceOnDestination(c, e, g, [&](SweepContext& cc) {
+                std::mt19937 args(argSeed);
+                cc.randomizeArguments(args);
+                cc.snapshot();
+            }, &fault);
+
+        // One broken argument on the same layout.
+        if (fault.empty()) {
+            const auto broken = breakagesOf(e, g);
+            const Breakage& b = broken[std::uniform_int_distribution<std::size_t>(0, broken.size() - 1)(rng)];
+            prepare();
+            b.apply(c);
+            const int st = run(c, e);
+            ++made;
+            if (st != b.expected || !c.unchanged())
+                fault = "with " + b.what + ": status " + std::to_string(st) + ", expected " +
+                        std::to_string(b.expected) + (c.unchanged() ? "" : ", and an operand was written");
+        }
+        if (!fault.empty()) {
+            ++failures;
+            ADD_FAILURE() << "draw " << i << " of seed " << seed << ": " << c.describe() << ", "
+                          << simd::targetName(target) << ", " << threads << " threads, pad " << g.padElements
+                          << ", offset " << g.offsetElements << (g.tight ? ", tight rows" : "") << ": " << fault;
+            if (failures >= 20) break;
+        }
+    }
+    std::printf("random sweep: %ld calls (%ld draws with tight rows, %ld upward), %ld failures\n", made,
+                tightDraws, upwardDraws, failures);
+}
+
+class Report : public ::testing::Environment {
+public:
+    void TearDown() override { std::printf("contract sweep: %ld calls in all\n", gCalls); }
+};
+const auto* const kReport = ::testing::AddGlobalTestEnvironment(new Report);
+
+}  // namespace
+}  // namespace zel::contract
