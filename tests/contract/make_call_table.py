@@ -9,7 +9,7 @@ the library frame (allocator, threads, version, constants) has a small table
 of its own. A declaration this script cannot read, or a parameter it does
 not know, stops the build: no function is left out silently.
 
-usage: make_call_table.py include/zeli.h out.inc
+usage: make_call_table.py include/zeli.h out.inc (the area headers it includes are read too)
 """
 import os
 import re
@@ -192,9 +192,17 @@ def frame_entry(name, ret, kind):
         name, kind, signature, name)
 
 
+def read_header(path):
+    """The header's text followed by the area headers it includes."""
+    text = open(path).read()
+    for area in re.findall(r'#include "(zeli/\w+\.h)"', text):
+        text += read_header(os.path.join(os.path.dirname(path), area))
+    return text
+
+
 def main():
     header, out = sys.argv[1], sys.argv[2]
-    text = open(header).read()
+    text = read_header(header)
     text = re.sub(r'/\*.*?\*/', '', text, flags=re.S)
     declared = re.findall(r"^ZELAPI\b([^;]*);", text, flags=re.M)
     images, frames = [], []

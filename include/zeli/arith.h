@@ -1,0 +1,648 @@
+/* zeli: image arithmetic. Included by <zeli.h>; callers include that. */
+#ifndef ZELI_ARITH_H
+#define ZELI_ARITH_H
+
+#include "types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ==== Image arithmetic ==================================================== */
+/* Add: pDst = pSrc1 + pSrc2 (in place: pSrcDst += pSrc). Integer results are
+   multiplied by 2^-scaleFactor, rounded half to even and saturated; a scale
+   factor that makes every result 0 fills the ROI with 0. AC4 members leave the
+   fourth channel as it is. Steps are not checked except by the 16sc and 32fc
+   members. */
+ZELAPI ZelStatus zeliAdd_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C1RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C1IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C3RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_C3IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_AC4RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_16sc_AC4IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C1RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C1IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C3RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_C3IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_AC4RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32sc_AC4IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAdd_32f_C1R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C1IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C3R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C3IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_C4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_AC4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32f_AC4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C1R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C1IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C3R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_C3IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_AC4R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAdd_32fc_AC4IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* AddC: pDst = pSrc + value per channel (in place: the value comes first).
+   Scaled and saturated as Add. */
+ZELAPI ZelStatus zeliAddC_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C1IRSfs(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C3RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C3IRSfs(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_C4IRSfs(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_8u_AC4IRSfs(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C1IRSfs(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C3RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C3IRSfs(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_C4IRSfs(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16u_AC4IRSfs(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C1IRSfs(Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C3RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C3IRSfs(const Zel16s value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[4], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_C4IRSfs(const Zel16s value[4], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16s_AC4IRSfs(const Zel16s value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C1RSfs(const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C1IRSfs(Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C3RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[3], Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_C3IRSfs(const Zel16sc value[3], Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_AC4RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[3], Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_16sc_AC4IRSfs(const Zel16sc value[3], Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C1RSfs(const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C1IRSfs(Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C3RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[3], Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_C3IRSfs(const Zel32sc value[3], Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_AC4RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[3], Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32sc_AC4IRSfs(const Zel32sc value[3], Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliAddC_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C3R(const Zel32f* pSrc, int srcStep, const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C3IR(const Zel32f value[3], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C4R(const Zel32f* pSrc, int srcStep, const Zel32f value[4], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_C4IR(const Zel32f value[4], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_AC4R(const Zel32f* pSrc, int srcStep, const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32f_AC4IR(const Zel32f value[3], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C1R(const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C1IR(Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C3R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[3], Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_C3IR(const Zel32fc value[3], Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_AC4R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[3], Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAddC_32fc_AC4IR(const Zel32fc value[3], Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Sub: pDst = pSrc2 - pSrc1, the first source is subtracted from the second
+   (in place: pSrcDst -= pSrc). Scaled and saturated as Add. */
+ZELAPI ZelStatus zeliSub_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C1RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C1IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C3RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_C3IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_AC4RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_16sc_AC4IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C1RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C1IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C3RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_C3IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_AC4RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32sc_AC4IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSub_32f_C1R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C1IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C3R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C3IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_C4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_AC4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32f_AC4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C1R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C1IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C3R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_C3IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_AC4R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSub_32fc_AC4IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* SubC: pDst = pSrc - value per channel. Scaled and saturated as Add. */
+ZELAPI ZelStatus zeliSubC_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C1IRSfs(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C3RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C3IRSfs(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_C4IRSfs(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_8u_AC4IRSfs(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C1IRSfs(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C3RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C3IRSfs(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_C4IRSfs(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16u_AC4IRSfs(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C1IRSfs(Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C3RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C3IRSfs(const Zel16s value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[4], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_C4IRSfs(const Zel16s value[4], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16s_AC4IRSfs(const Zel16s value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C1RSfs(const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C1IRSfs(Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C3RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[3], Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_C3IRSfs(const Zel16sc value[3], Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_AC4RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[3], Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_16sc_AC4IRSfs(const Zel16sc value[3], Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C1RSfs(const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C1IRSfs(Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C3RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[3], Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_C3IRSfs(const Zel32sc value[3], Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_AC4RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[3], Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32sc_AC4IRSfs(const Zel32sc value[3], Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSubC_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C3R(const Zel32f* pSrc, int srcStep, const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C3IR(const Zel32f value[3], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C4R(const Zel32f* pSrc, int srcStep, const Zel32f value[4], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_C4IR(const Zel32f value[4], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_AC4R(const Zel32f* pSrc, int srcStep, const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32f_AC4IR(const Zel32f value[3], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C1R(const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C1IR(Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C3R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[3], Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_C3IR(const Zel32fc value[3], Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_AC4R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[3], Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSubC_32fc_AC4IR(const Zel32fc value[3], Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Mul: pDst = pSrc1 * pSrc2; complex products (re1 re2 - im1 im2,
+   re1 im2 + im1 re2) are formed exactly and each part is scaled. */
+ZELAPI ZelStatus zeliMul_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C1RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C1IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C3RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_C3IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_AC4RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2, int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_16sc_AC4IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C1RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C1IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C3RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_C3IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_AC4RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2, int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32sc_AC4IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMul_32f_C1R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C1IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C3R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C3IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_C4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_AC4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2, int src2Step, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32f_AC4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C1R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C1IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C3R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_C3IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_AC4R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2, int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMul_32fc_AC4IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* MulC: pDst = pSrc * value per channel. Scaled and saturated as Mul. */
+ZELAPI ZelStatus zeliMulC_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C1IRSfs(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C3RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C3IRSfs(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_C4IRSfs(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_8u_AC4IRSfs(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C1IRSfs(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C3RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C3IRSfs(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_C4IRSfs(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16u_AC4IRSfs(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C1IRSfs(Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C3RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C3IRSfs(const Zel16s value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[4], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_C4IRSfs(const Zel16s value[4], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16s_AC4IRSfs(const Zel16s value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C1RSfs(const Zel16sc* pSrc, int srcStep, Zel16sc value, Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C1IRSfs(Zel16sc value, Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C3RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[3], Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_C3IRSfs(const Zel16sc value[3], Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_AC4RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[3], Zel16sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_16sc_AC4IRSfs(const Zel16sc value[3], Zel16sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C1RSfs(const Zel32sc* pSrc, int srcStep, Zel32sc value, Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C1IRSfs(Zel32sc value, Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C3RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[3], Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_C3IRSfs(const Zel32sc value[3], Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_AC4RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[3], Zel32sc* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32sc_AC4IRSfs(const Zel32sc value[3], Zel32sc* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliMulC_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C3R(const Zel32f* pSrc, int srcStep, const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C3IR(const Zel32f value[3], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C4R(const Zel32f* pSrc, int srcStep, const Zel32f value[4], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_C4IR(const Zel32f value[4], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_AC4R(const Zel32f* pSrc, int srcStep, const Zel32f value[3], Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32f_AC4IR(const Zel32f value[3], Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C1R(const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C1IR(Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C3R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[3], Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_C3IR(const Zel32fc value[3], Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_AC4R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[3], Zel32fc* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulC_32fc_AC4IR(const Zel32fc value[3], Zel32fc* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* MulScale: a * b as a fraction of the type maximum, (p + 1 + (p >> n)) >> n
+   for p = a * b and n = 8 or 16. Checks the step before the ROI size. */
+ZELAPI ZelStatus zeliMulScale_8u_C1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C1IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C3R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C3IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_C4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_AC4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_8u_AC4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C1R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C1IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C3R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C3IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_C4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_AC4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulScale_16u_AC4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* MulCScale: pSrc * value per channel as MulScale. */
+ZELAPI ZelStatus zeliMulCScale_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C3R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C3IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C4R(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_C4IR(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_AC4R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_8u_AC4IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C3R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C3IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C4R(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_C4IR(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliMulCScale_16u_AC4IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* ==== Image arithmetic: division ======================================== */
+
+/* Div: destination = source 2 / source 1 (the first source is the divisor);
+   in place, image = image / source. Integer members: the exact quotient
+   times 2^-scaleFactor, rounded to nearest even and saturated; complex
+   members divide by (b * conj(a)) / |a|^2 and scale each part. A zero
+   divisor gives the saturated sign of the dividend (0 for 0 / 0) and the
+   call returns zelStatusWarnDivByZero after computing the whole ROI; 32f
+   and 32fc divide in IEEE single precision and warn the same way. Checks:
+   null pointers, ROI size, then steps. */
+ZELAPI ZelStatus zeliDiv_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C1RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2,
+    int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C1IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C3RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2,
+    int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_C3IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_AC4RSfs(const Zel16sc* pSrc1, int src1Step, const Zel16sc* pSrc2,
+    int src2Step, Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_16sc_AC4IRSfs(const Zel16sc* pSrc, int srcStep, Zel16sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C1RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2,
+    int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C1IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C3RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2,
+    int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_C3IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_AC4RSfs(const Zel32sc* pSrc1, int src1Step, const Zel32sc* pSrc2,
+    int src2Step, Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32sc_AC4IRSfs(const Zel32sc* pSrc, int srcStep, Zel32sc* pSrcDst,
+    int srcDstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_32f_C1R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C1IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C3R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C3IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_C4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_AC4R(const Zel32f* pSrc1, int src1Step, const Zel32f* pSrc2,
+    int src2Step, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32f_AC4IR(const Zel32f* pSrc, int srcStep, Zel32f* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C1R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2,
+    int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C1IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C3R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2,
+    int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_C3IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_AC4R(const Zel32fc* pSrc1, int src1Step, const Zel32fc* pSrc2,
+    int src2Step, Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDiv_32fc_AC4IR(const Zel32fc* pSrc, int srcStep, Zel32fc* pSrcDst,
+    int srcDstStep, ZeliSize roi);
+
+/* Div_Round: Div for 8u, 16u and 16s with the rounding mode of the scaled
+   quotient given (toward zero, nearest even, half away from zero); any
+   other mode returns zelStatusBadRoundMode after the step check. */
+ZELAPI ZelStatus zeliDiv_Round_8u_C1RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C1IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C3RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C3IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_C4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_AC4RSfs(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2,
+    int src2Step, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_8u_AC4IRSfs(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C1RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C1IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C3RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C3IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_C4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_AC4RSfs(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2,
+    int src2Step, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16u_AC4IRSfs(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C1RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C1IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C3RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C3IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_C4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_AC4RSfs(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2,
+    int src2Step, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode rndMode,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDiv_Round_16s_AC4IRSfs(const Zel16s* pSrc, int srcStep, Zel16s* pSrcDst,
+    int srcDstStep, ZeliSize roi, ZelRoundingMode rndMode, int scaleFactor);
+
+/* DivC: destination = source / constant (a scalar for C1, 3 values for C3
+   and AC4, 4 for C4); the in-place members take the constant first. A zero
+   constant in any channel returns zelStatusDivByZero after the pointer,
+   size and step checks, with nothing written. Integer and complex members
+   round as Div does; 32f members multiply by the single-precision
+   reciprocal, x * (1 / c). */
+ZELAPI ZelStatus zeliDivC_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst,
+    int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C1IRSfs(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C3RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[],
+    Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C3IRSfs(const Zel8u value[], Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[],
+    Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_C4IRSfs(const Zel8u value[], Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, const Zel8u value[],
+    Zel8u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_8u_AC4IRSfs(const Zel8u value[], Zel8u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst,
+    int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C1IRSfs(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C3RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[],
+    Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C3IRSfs(const Zel16u value[], Zel16u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[],
+    Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_C4IRSfs(const Zel16u value[], Zel16u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, const Zel16u value[],
+    Zel16u* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16u_AC4IRSfs(const Zel16u value[], Zel16u* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s value, Zel16s* pDst,
+    int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C1IRSfs(Zel16s value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roi,
+    int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C3RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[],
+    Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C3IRSfs(const Zel16s value[], Zel16s* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[],
+    Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_C4IRSfs(const Zel16s value[], Zel16s* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, const Zel16s value[],
+    Zel16s* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16s_AC4IRSfs(const Zel16s value[], Zel16s* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C1RSfs(const Zel16sc* pSrc, int srcStep, Zel16sc value,
+    Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C1IRSfs(Zel16sc value, Zel16sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C3RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[],
+    Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_C3IRSfs(const Zel16sc value[], Zel16sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_AC4RSfs(const Zel16sc* pSrc, int srcStep, const Zel16sc value[],
+    Zel16sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_16sc_AC4IRSfs(const Zel16sc value[], Zel16sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C1RSfs(const Zel32sc* pSrc, int srcStep, Zel32sc value,
+    Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C1IRSfs(Zel32sc value, Zel32sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C3RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[],
+    Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_C3IRSfs(const Zel32sc value[], Zel32sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_AC4RSfs(const Zel32sc* pSrc, int srcStep, const Zel32sc value[],
+    Zel32sc* pDst, int dstStep, ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32sc_AC4IRSfs(const Zel32sc value[], Zel32sc* pSrcDst, int srcDstStep,
+    ZeliSize roi, int scaleFactor);
+ZELAPI ZelStatus zeliDivC_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f value, Zel32f* pDst,
+    int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C1IR(Zel32f value, Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C3R(const Zel32f* pSrc, int srcStep, const Zel32f value[],
+    Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C3IR(const Zel32f value[], Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C4R(const Zel32f* pSrc, int srcStep, const Zel32f value[],
+    Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_C4IR(const Zel32f value[], Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_AC4R(const Zel32f* pSrc, int srcStep, const Zel32f value[],
+    Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32f_AC4IR(const Zel32f value[], Zel32f* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C1R(const Zel32fc* pSrc, int srcStep, Zel32fc value, Zel32fc* pDst,
+    int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C1IR(Zel32fc value, Zel32fc* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C3R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[],
+    Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_C3IR(const Zel32fc value[], Zel32fc* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_AC4R(const Zel32fc* pSrc, int srcStep, const Zel32fc value[],
+    Zel32fc* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDivC_32fc_AC4IR(const Zel32fc value[], Zel32fc* pSrcDst, int srcDstStep,
+    ZeliSize roi);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* ZELI_ARITH_H */

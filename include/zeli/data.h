@@ -1,0 +1,262 @@
+/* zeli: data exchange. Included by <zeli.h>; callers include that. */
+#ifndef ZELI_DATA_H
+#define ZELI_DATA_H
+
+#include "types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ==== Data exchange: copy, set and channel exchange ====================== */
+
+/* Set: every pixel of the ROI takes the value (a scalar for C1, an array of
+   3 or 4 values otherwise; AC4 uses the first three and leaves alpha as it
+   was). Checks: null pointers, then the ROI size; steps are not checked, so
+   a negative step walks the rows upwards. */
+ZELAPI ZelStatus zeliSet_8u_C1R(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_8u_C3R(const Zel8u value[], Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_8u_C4R(const Zel8u value[], Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_8u_AC4R(const Zel8u value[], Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16u_C1R(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16u_C3R(const Zel16u value[], Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16u_C4R(const Zel16u value[], Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16u_AC4R(const Zel16u value[], Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16s_C1R(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16s_C3R(const Zel16s value[], Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16s_C4R(const Zel16s value[], Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16s_AC4R(const Zel16s value[], Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32s_C1R(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32s_C3R(const Zel32s value[], Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32s_C4R(const Zel32s value[], Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32s_AC4R(const Zel32s value[], Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32f_C1R(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32f_C3R(const Zel32f value[], Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32f_C4R(const Zel32f value[], Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32f_AC4R(const Zel32f value[], Zel32f* pDst, int dstStep, ZeliSize roi);
+
+/* Set, masked (C1MR, C3MR, C4MR, AC4MR): only pixels whose mask byte is
+   non-zero are filled. Channel of interest (C3CR, C4CR): pDst points at one
+   channel of 3-/4-channel pixels and only that channel takes the value.
+   Checks as above (the mask pointer is one of the null checks). */
+ZELAPI ZelStatus zeliSet_8u_C1MR(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_8u_C3MR(const Zel8u value[], Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_8u_C4MR(const Zel8u value[], Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_8u_AC4MR(const Zel8u value[], Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_8u_C3CR(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_8u_C4CR(Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16u_C1MR(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16u_C3MR(const Zel16u value[], Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16u_C4MR(const Zel16u value[], Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16u_AC4MR(const Zel16u value[], Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16u_C3CR(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16u_C4CR(Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16s_C1MR(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16s_C3MR(const Zel16s value[], Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16s_C4MR(const Zel16s value[], Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16s_AC4MR(const Zel16s value[], Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_16s_C3CR(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_16s_C4CR(Zel16s value, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32s_C1MR(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32s_C3MR(const Zel32s value[], Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32s_C4MR(const Zel32s value[], Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32s_AC4MR(const Zel32s value[], Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32s_C3CR(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32s_C4CR(Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32f_C1MR(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32f_C3MR(const Zel32f value[], Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32f_C4MR(const Zel32f value[], Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32f_AC4MR(const Zel32f value[], Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliSet_32f_C3CR(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliSet_32f_C4CR(Zel32f value, Zel32f* pDst, int dstStep, ZeliSize roi);
+
+/* Copy: pixels move bit for bit (16u and 16s, 32s and 32f behave alike).
+   C1R/C3R/C4R copy all channels; AC4R channels 0-2 (destination alpha kept).
+   MR: only pixels whose mask byte is non-zero. C1C3R/C1C4R: a grey image
+   into the channel of the destination at which pDst points; C3C1R/C4C1R:
+   the channel at which pSrc points into a grey image; C3CR/C4CR: one channel
+   (pointed at in both) to the same channel; C3AC4R/AC4C3R: three channels
+   between 3- and 4-channel pixels (alpha kept); C3P3R/C4P4R and
+   P3C3R/P4C4R: interleaved to planes (channel k to plane k) and back, the
+   planes sharing one step. Checks: null pointers (each plane pointer
+   included), then the ROI size; steps are not checked (a negative step walks
+   the rows upwards). Large contiguous copies bypass the caches. */
+ZELAPI ZelStatus zeliCopy_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C1MR(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_C3MR(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_C4MR(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_AC4MR(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_8u_C1C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C1C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C3C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C4C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C3CR(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C4CR(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C3AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_AC4C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C3P3R(const Zel8u* pSrc, int srcStep, Zel8u* const pDst[3], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_C4P4R(const Zel8u* pSrc, int srcStep, Zel8u* const pDst[4], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_P3C3R(const Zel8u* const pSrc[3], int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_8u_P4C4R(const Zel8u* const pSrc[4], int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C1MR(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_C3MR(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_C4MR(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_AC4MR(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16u_C1C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C1C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C3C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C4C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C3CR(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C4CR(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C3AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_AC4C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C3P3R(const Zel16u* pSrc, int srcStep, Zel16u* const pDst[3], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_C4P4R(const Zel16u* pSrc, int srcStep, Zel16u* const pDst[4], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_P3C3R(const Zel16u* const pSrc[3], int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16u_P4C4R(const Zel16u* const pSrc[4], int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C1MR(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_C3MR(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_C4MR(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_AC4MR(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_16s_C1C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C1C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C3C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C4C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C3CR(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C4CR(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C3AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_AC4C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C3P3R(const Zel16s* pSrc, int srcStep, Zel16s* const pDst[3], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_C4P4R(const Zel16s* pSrc, int srcStep, Zel16s* const pDst[4], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_P3C3R(const Zel16s* const pSrc[3], int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_16s_P4C4R(const Zel16s* const pSrc[4], int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C3R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_AC4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C1MR(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_C3MR(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_C4MR(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_AC4MR(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32s_C1C3R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C1C4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C3C1R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C4C1R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C3CR(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C4CR(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C3AC4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_AC4C3R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C3P3R(const Zel32s* pSrc, int srcStep, Zel32s* const pDst[3], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_C4P4R(const Zel32s* pSrc, int srcStep, Zel32s* const pDst[4], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_P3C3R(const Zel32s* const pSrc[3], int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32s_P4C4R(const Zel32s* const pSrc[4], int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C1MR(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_C3MR(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_C4MR(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_AC4MR(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask, int maskStep);
+ZELAPI ZelStatus zeliCopy_32f_C1C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C1C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C3C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C4C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C3CR(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C4CR(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C3AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_AC4C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C3P3R(const Zel32f* pSrc, int srcStep, Zel32f* const pDst[3], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_C4P4R(const Zel32f* pSrc, int srcStep, Zel32f* const pDst[4], int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_P3C3R(const Zel32f* const pSrc[3], int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliCopy_32f_P4C4R(const Zel32f* const pSrc[4], int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+
+/* CopyManaged: the plain 8-bit copy; flags bit 0 (value 1) asks for
+   non-temporal stores, every other bit is ignored. Checks as Copy. */
+ZELAPI ZelStatus zeliCopyManaged_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, int flags);
+
+/* Dup: each grey value goes to all three channels. Checks as Copy. */
+ZELAPI ZelStatus zeliDup_8u_C1C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+
+/* SwapChannels: destination channel k takes source channel dstOrder[k].
+   C3R, AC4R (alpha kept), C3IR: three entries, each 0..2; checks null
+   pointers, size, steps (zelStatusBadStep), then the entries
+   (zelStatusBadChannelOrder). C4IR: four entries 0..3; checks the step
+   before the size. C4C3R: three entries 0..3; steps not checked.
+   C3C4R: four entries: 0..2 take that source channel, 3 writes val (8u;
+   the other types have no fill value and keep the channel), any other value
+   keeps the destination channel; only the first three entries are checked
+   and only for being negative; steps not checked. */
+ZELAPI ZelStatus zeliSwapChannels_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_C4C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_C3C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, const int dstOrder[4], Zel8u val);
+ZELAPI ZelStatus zeliSwapChannels_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi, const int dstOrder[4]);
+ZELAPI ZelStatus zeliSwapChannels_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16u_C4C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16u_C3C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, const int dstOrder[4]);
+ZELAPI ZelStatus zeliSwapChannels_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16s_C4C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_16s_C3C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, const int dstOrder[4]);
+ZELAPI ZelStatus zeliSwapChannels_32s_C3R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32s_AC4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32s_C4C3R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32s_C3C4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi, const int dstOrder[4]);
+ZELAPI ZelStatus zeliSwapChannels_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32f_C4C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const int dstOrder[3]);
+ZELAPI ZelStatus zeliSwapChannels_32f_C3C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, const int dstOrder[4]);
+
+/* Transpose: destination pixel (x, y) = source pixel (y, x); roi is the
+   source size (the destination is roi.height wide, roi.width high). The
+   in-place members (IR) accept square ROIs only: a non-square ROI gives
+   zelStatusBadSize. Checks: null pointers, then the size; steps are not
+   checked. An out-of-place member (R) called with pSrc == pDst transposes
+   in place when roi is square and srcStep == dstStep; any other call with
+   pSrc == pDst returns zelStatusBadArgument (after the null and size
+   checks) and writes nothing. Other overlaps of source and destination are
+   not supported. */
+ZELAPI ZelStatus zeliTranspose_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_32s_C3R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_32s_C3IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_32s_C4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliTranspose_32s_C4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roi);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* ZELI_DATA_H */
