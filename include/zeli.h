@@ -46,5 +46,6 @@
 #include "zeli/core.h"
 #include "zeli/data.h"
 #include "zeli/arith.h"
+#include "zeli/filter.h"
 
 #endif /* ZELI_H */

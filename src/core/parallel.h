@@ -117,9 +117,12 @@ inline std::ptrdiff_t piecesPerRow(std::ptrdiff_t rows, std::ptrdiff_t width, st
     return std::max<std::ptrdiff_t>(1, std::min<std::ptrdiff_t>(team, grains));
 }
 
-// A rectangle of the work: elements [begin, end) of rows [y0, y1).
+// A rectangle of the work: elements [begin, end) of rows [y0, y1), worked
+// by thread `thread` of the team (0 for a team of one), which indexes the
+// thread's own scratch.
 struct Block {
     std::ptrdiff_t y0, y1, begin, end;
+    int thread;
 };
 
 // Share i of `total` things dealt into `parts` shares as evenly as they go,
@@ -139,7 +142,7 @@ template <class Body>
 void forEachBlock(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grain, int team,
                   Body&& body) {
     if (team <= 1) {
-        body(Block{0, rows, 0, width});
+        body(Block{0, rows, 0, width, 0});
         return;
     }
     const std::ptrdiff_t pieces = piecesPerRow(rows, width, grain, team);
@@ -151,12 +154,12 @@ void forEachBlock(std::ptrdiff_t rows, std::ptrdiff_t width, std::ptrdiff_t grai
         const std::ptrdiff_t units = rows * pieces;
         const std::ptrdiff_t first = shareStart(units, threads, t), last = shareStart(units, threads, t + 1);
         if (pieces == 1) {
-            if (first < last) body(Block{first, last, 0, width});
+            if (first < last) body(Block{first, last, 0, width, static_cast<int>(t)});
             return;
         }
         for (std::ptrdiff_t unit = first; unit < last; ++unit) {
             const std::ptrdiff_t y = unit / pieces, i = unit % pieces;
-            body(Block{y, y + 1, edge(i), edge(i + 1)});
+            body(Block{y, y + 1, edge(i), edge(i + 1), static_cast<int>(t)});
         }
     });
 }

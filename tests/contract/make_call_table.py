@@ -16,7 +16,7 @@ import re
 import sys
 
 ELEMENTS = {  # type suffix: (C type, bytes, floating point)
-    '8u': ('Zel8u', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
+    '8u': ('Zel8u', 1, False), '8s': ('Zel8s', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
     '32s': ('Zel32s', 4, False), '32f': ('Zel32f', 4, True), '16sc': ('Zel16sc', 4, False),
     '32sc': ('Zel32sc', 8, False), '32fc': ('Zel32fc', 8, True),
 }
@@ -38,6 +38,14 @@ STEP_CHECKS = {
 }
 for fam in ('Add', 'AddC', 'Sub', 'SubC', 'Mul', 'MulC'):
     STEP_CHECKS[fam] = lambda t, lay: t in ('16sc', '32fc')
+FIXED_FILTERS = ('SobelHoriz', 'SobelVert', 'SobelHorizMask', 'SobelVertMask', 'SobelHorizSecond',
+                 'SobelVertSecond', 'SobelCross', 'PrewittHoriz', 'PrewittVert', 'ScharrHoriz', 'ScharrVert',
+                 'RobertsDown', 'RobertsUp', 'Laplace', 'Gauss', 'Hipass', 'Lowpass', 'Sharpen')
+for fam in FIXED_FILTERS:
+    STEP_CHECKS['Filter' + fam] = lambda t, lay: True
+# Float Sobel members with a mask code take any value other than 33 as 5x5.
+LENIENT_MASKS = ('FilterSobelHorizMask', 'FilterSobelVertMask', 'FilterSobelHorizSecond',
+                 'FilterSobelVertSecond', 'FilterSobelCross')
 
 # The library frame: functions without image operands.
 FRAME = [
@@ -81,7 +89,7 @@ def operand(part, role, coi, family, order_len):
 
 
 def image_entry(name, params):
-    m = re.fullmatch(r'zeli(\w+?)_(\d+[a-z]+)_([A-Z0-9]+?)(M?)(I?)R(Sfs)?', name)
+    m = re.fullmatch(r'zeli(\w+?)_(\d+[a-z]+?)(?:\d+[a-z]+)?_([A-Z0-9]+?)(M?)(I?)R(Sfs)?', name)
     if not m:
         fail('cannot read the name ' + name)
     family, tsuf, layout, masked, inplace = m.group(1), m.group(2), m.group(3), m.group(4), m.group(5)
@@ -96,8 +104,12 @@ def image_entry(name, params):
     one_channel_dst = family == 'Copy' and src_part == 'C1' and dst_part in ('C3', 'C4')
     one_channel_src = family == 'Copy' and dst_part == 'C1' and src_part in ('C3', 'C4')
 
+    # Widening members (8u16s) write the second type.
+    dst_type = re.fullmatch(r'zeli\w+?_\d+[a-z]+?(\d+[a-z]+)?_.*', name).group(1) or tsuf
+    dctype, debytes, disfloat = ELEMENTS[dst_type]
     ops, args, nulls, steps = [], [], [], []
     rnd = False
+    mask = 'MaskCheck::none'
     order = 0
     for ptype, pname, arr in params:
         base = pname
@@ -117,14 +129,15 @@ def image_entry(name, params):
                     wmask = 0b1111 if tsuf == '8u' else 0b0111  # order {2,1,0,3}
                 if not is_dst:
                     wmask = 0
-                el, fl = ebytes, isfloat
+                el, fl = (debytes, disfloat) if is_dst else (ebytes, isfloat)
             if planes and not arr:
                 fail('%s: planar operand %s is not an array' % (name, pname))
             transposed = family == 'Transpose' and is_dst and not inplace
             ops.append('{"%s", %d, %d, %d, %d, %d, %s, %s, %s, "%s"}' % (
                 pname, el, ch, wmask, coff, planes, 'true' if is_dst else 'false',
                 'true' if fl else 'false', 'true' if transposed else 'false', STEP_OF[base]))
-            cast = ('const ' if ptype.startswith('const') else '') + (ctype if base != 'pMask' else 'Zel8u')
+            cast = ('const ' if ptype.startswith('const') else '') + (
+                'Zel8u' if base == 'pMask' else dctype if is_dst else ctype)
             if planes:
                 args.append('c.planes<%s>(%d)' % (cast, idx))
                 nulls.append('{"%s", %d, -1}' % (pname, idx))
@@ -159,6 +172,9 @@ def image_entry(name, params):
             order = int(arr)
             args.append('c.order()')
             nulls.append('{"dstOrder", -3, -1}')
+        elif pname == 'mask' and ptype == 'ZeliMaskCode':
+            args.append('static_cast<ZeliMaskCode>(c.mask)')
+            mask = 'MaskCheck::lenient' if family in LENIENT_MASKS and tsuf == '32f' else 'MaskCheck::strict'
         elif pname == 'flags' and ptype == 'int':
             args.append('c.flags')
         else:
@@ -168,10 +184,10 @@ def image_entry(name, params):
     layout_key = layout + ('I' if inplace else '')
     checks_steps = STEP_CHECKS[family](tsuf, layout_key)
     square = family == 'Transpose' and inplace == 'I'
-    return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %d, %s, %s,\n'
+    return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %s, %d, %s, %s,\n'
             ' [](SweepContext& c) -> int { return %s(%s); }},\n') % (
         name, family, ', '.join(ops), ', '.join(nulls), ', '.join(str(s) for s in steps),
-        'true' if checks_steps else 'false', 'true' if rnd else 'false', order,
+        'true' if checks_steps else 'false', 'true' if rnd else 'false', mask, order,
         'true' if square else 'false', '"%s"' % layout, name, ', '.join(args))
 
 

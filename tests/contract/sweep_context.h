@@ -49,6 +49,10 @@ struct NullCase {
 
 class SweepContext;
 
+// How a member checks its mask code: not at all (no mask), 33 and 55 only,
+// or 33 as 3x3 and any other value as 5x5.
+enum class MaskCheck { none, strict, lenient };
+
 struct CallEntry {
     const char* name;
     const char* family;
@@ -57,6 +61,7 @@ struct CallEntry {
     std::vector<int> steps;  // the operand each step argument belongs to, in order
     bool checksSteps;
     bool hasRndMode;
+    MaskCheck maskCheck;
     int orderLength;  // entries of dstOrder, 0 when there is none
     bool squareRoi;   // in-place transposition: square ROIs only
     const char* layout;
@@ -90,12 +95,18 @@ public:
     ZeliSize roi{};
     int scaleFactor = 1;
     int rndMode = 1;
+    int mask = zelMaskCode3x3;
     int flags = 0;
     Zel8u val = 200;
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
         roi = g.roi;
+        scaleFactor = 1;
+        rndMode = 1;
+        mask = zelMaskCode3x3;
+        flags = 0;
+        val = 200;
         nullOperand_ = nullPlane_ = -100;
         aliasSource_ = aliasTarget_ = -1;
         std::mt19937 rng(g.seed);
@@ -147,6 +158,8 @@ public:
         scaleFactor = extreme ? kExtremeScales[rng() % std::size(kExtremeScales)]
                               : std::uniform_int_distribution<int>(-4, 34)(rng);
         rndMode = std::uniform_int_distribution<int>(0, 2)(rng);
+        mask = entry_->maskCheck == MaskCheck::lenient && extreme ? static_cast<int>(rng())
+               : rng() % 2 ? zelMaskCode3x3 : zelMaskCode5x5;
         flags = static_cast<int>(rng());
         val = static_cast<Zel8u>(rng());
         if (entry_->orderLength > 0) {
@@ -273,6 +286,7 @@ public:
         s += " constants";
         for (int v : constants_) s += " " + std::to_string(v);
         if (entry_->hasRndMode) s += " rndMode " + std::to_string(rndMode);
+        if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
         if (entry_->orderLength > 0) {
             s += " order";
             for (int k = 0; k < entry_->orderLength; ++k) s += " " + std::to_string(order_[k]);

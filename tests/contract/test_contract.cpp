@@ -90,6 +90,10 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (int mode : {3, -1, 1000})
             list.push_back({"rndMode " + std::to_string(mode), zelStatusBadRoundMode,
                             [mode](SweepContext& c) { c.rndMode = mode; }});
+    if (e.maskCheck == MaskCheck::strict)
+        for (int mask : {35, 53, 13, 0, -1})
+            list.push_back({"mask " + std::to_string(mask), zelStatusBadMaskSize,
+                            [mask](SweepContext& c) { c.mask = mask; }});
     if (e.orderLength > 0) {
         const std::string lay = e.layout;
         // C3C4 checks only its first three entries, only for being negative.

@@ -1,0 +1,346 @@
+// Per-target kernels of the fixed-kernel filters (included by each filter
+// file inside its Highway target loop). See fixed_kernels.h for the two
+// kernel shapes.
+//
+// A block kernel computes rows [0, rows) of a block of destination rows,
+// elements [begin, end) of rows of n elements (pixels times channels). The
+// neighbour of element x in the next or previous column is x + channels or
+// x - channels, so one kernel serves every interleaved layout; AC4
+// destinations leave every fourth element out of the stores. Sources are
+// read only where the kernel reaches: r rows above and below, r pixels left
+// and right, and never the alpha element of an AC4 row's last pixel.
+//
+// Separable kernels run the column pass into a scratch row of column values
+// (one chunk of the row at a time, so scratch stays small and in the first
+// level cache) and the row pass from it. Integer lanes hold every value
+// exactly: 16-bit lanes for 8-bit sources, 32-bit lanes for 16-bit ones and
+// for the 8-bit Gauss 5x5 sums. The last partial vector of a pass runs the
+// same code on one-lane vectors.
+#if defined(ZEL_FILTER_TWO_PASS_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef ZEL_FILTER_TWO_PASS_INL_H_
+#undef ZEL_FILTER_TWO_PASS_INL_H_
+#else
+#define ZEL_FILTER_TWO_PASS_INL_H_
+#endif
+
+#include <hwy/highway.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "core/image.h"
+#include "core/store_under_mask-inl.h"
+#include "filter/fixed_kernels.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace zel {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+namespace filter_detail {
+
+using filter::Finish;
+
+// w * x, and acc + w * x; small weights are additions.
+template <int W, class D, class V>
+HWY_INLINE V Weighted(D d, V x) {
+    if constexpr (W == 1) return x;
+    else if constexpr (W == -1) return hn::Neg(x);
+    else if constexpr (W == 2) return hn::Add(x, x);
+    else return hn::Mul(x, hn::Set(d, static_cast<hn::TFromD<D>>(W)));
+}
+template <int W, class D, class V>
+HWY_INLINE V AddWeighted(D d, V acc, V x) {
+    if constexpr (W == 1) return hn::Add(acc, x);
+    else if constexpr (W == -1) return hn::Sub(acc, x);
+    else if constexpr (W == 2) return hn::Add(acc, hn::Add(x, x));
+    else if constexpr (W == -2) return hn::Sub(acc, hn::Add(x, x));
+    else return hn::Add(acc, hn::Mul(x, hn::Set(d, static_cast<hn::TFromD<D>>(W))));
+}
+
+template <class Tp, std::size_t K, class D, class Load, class V>
+HWY_INLINE V AddTapsFrom(D d, const Load& load, V acc) {
+    if constexpr (K == Tp::kCount) {
+        return acc;
+    } else if constexpr (Tp::kWeights[K] == 0) {
+        return AddTapsFrom<Tp, K + 1>(d, load, acc);
+    } else {
+        return AddTapsFrom<Tp, K + 1>(d, load, AddWeighted<Tp::kWeights[K]>(d, acc, load(K)));
+    }
+}
+
+// Integer lanes: a symmetric kernel adds each pair of mirrored inputs
+// before weighting it.
+template <class Tp, std::size_t K, class D, class Load, class V>
+HWY_INLINE V AddPairsFrom(D d, const Load& load, V acc) {
+    constexpr std::size_t kMirror = Tp::kCount - 1 - K;
+    if constexpr (K > kMirror) {
+        return acc;
+    } else if constexpr (Tp::kWeights[K] == 0) {
+        return AddPairsFrom<Tp, K + 1>(d, load, acc);
+    } else if constexpr (K == kMirror) {
+        return AddWeighted<Tp::kWeights[K]>(d, acc, load(K));
+    } else {
+        return AddPairsFrom<Tp, K + 1>(d, load,
+                                       AddWeighted<Tp::kWeights[K]>(d, acc, hn::Add(load(K), load(kMirror))));
+    }
+}
+
+// The taps' weighted sum of load(0) .. load(count - 1). Floating-point
+// lanes add the products in tap order, starting from the first non-zero
+// tap's product.
+template <class Tp, class D, class Load>
+HWY_INLINE hn::VFromD<D> SumTaps(D d, const Load& load) {
+    constexpr std::size_t kFirst = Tp::firstNonZero();
+    static_assert(kFirst < Tp::kCount, "a kernel with no weight");
+    if constexpr (!hwy::IsFloat<hn::TFromD<D>>() && Tp::symmetric()) {
+        return AddPairsFrom<Tp, 0>(d, load, hn::Zero(d));
+    } else {
+        return AddTapsFrom<Tp, kFirst + 1>(d, load, Weighted<Tp::kWeights[kFirst]>(d, load(kFirst)));
+    }
+}
+
+// Elements of S at p, in the lanes of d.
+template <class D, class S>
+HWY_INLINE hn::VFromD<D> LoadAs(D d, const S* p) {
+    if constexpr (std::is_same_v<hn::TFromD<D>, S>) {
+        return hn::LoadU(d, p);
+    } else {
+        const hn::Rebind<S, D> ds;
+        return hn::PromoteTo(d, hn::LoadU(ds, p));
+    }
+}
+
+// v narrowed to the destination's lanes, saturated to its range (clamped
+// in the wide lanes first: not every target's narrowing saturates).
+template <class DD, class V>
+HWY_INLINE hn::VFromD<DD> SaturateTo(DD dd, V v) {
+    using A = hn::TFromV<V>;
+    using T = hn::TFromD<DD>;
+    if constexpr (std::is_same_v<A, T>) {
+        return v;
+    } else {
+        const hn::Rebind<A, DD> da;
+        v = hn::Min(hn::Max(v, hn::Set(da, A(std::numeric_limits<T>::lowest()))),
+                    hn::Set(da, A(std::numeric_limits<T>::max())));
+        return hn::DemoteTo(dd, v);
+    }
+}
+
+// v / 2^k rounded to nearest, ties to even (arithmetic shift: negative
+// values round the same way).
+template <int K, class V>
+HWY_INLINE V ShiftRoundEven(V v) {
+    const hn::DFromV<V> d;
+    using A = hn::TFromV<V>;
+    const V odd = hn::And(hn::ShiftRight<K>(v), hn::Set(d, A(1)));
+    return hn::ShiftRight<K>(hn::Add(hn::Add(v, hn::Set(d, A((1 << (K - 1)) - 1))), odd));
+}
+
+// v / Divisor rounded to nearest, exactly, for any 32-bit v; Divisor odd,
+// so there are no ties. The single-precision quotient is within one of
+// floor((v + Divisor / 2) / Divisor) and the remainder corrects it.
+template <int Divisor, class V>
+HWY_INLINE V DivideNearest(V v) {
+    static_assert(Divisor % 2 == 1, "ties would need a rule");
+    const hn::DFromV<V> di;
+    const hn::Rebind<float, decltype(di)> df;
+    const V n = hn::Add(v, hn::Set(di, Divisor / 2));
+    const auto approx = hn::Floor(hn::Mul(hn::ConvertTo(df, n), hn::Set(df, 1.0f / Divisor)));
+    V q = hn::ConvertTo(di, approx);
+    const V r = hn::Sub(n, hn::Mul(q, hn::Set(di, Divisor)));
+    q = hn::IfThenElse(hn::Lt(r, hn::Zero(di)), hn::Sub(q, hn::Set(di, 1)), q);
+    return hn::IfThenElse(hn::Gt(r, hn::Set(di, Divisor - 1)), hn::Add(q, hn::Set(di, 1)), q);
+}
+
+// The float nearest to 1 / divisor, as the 32f members scale by it.
+inline float FloatBits(std::uint32_t bits) {
+    float f;
+    std::memcpy(&f, &bits, sizeof f);
+    return f;
+}
+template <Finish F>
+inline float FloatScale() {
+    switch (F) {
+        case Finish::Gauss16: return 0.0625f;
+        case Finish::Sharpen8: return 0.125f;
+        case Finish::Mean9: return FloatBits(0x3DE38E39);
+        case Finish::Mean25: return FloatBits(0x3D23D70A);
+        case Finish::Gauss571: return FloatBits(0x3AE58C54);
+        default: return 1.0f;
+    }
+}
+
+// The kernel value v (lanes of DA) as destination values (lanes of DD).
+template <Finish F, class DA, class DD>
+HWY_INLINE hn::VFromD<DD> FinishTo(DA da, DD dd, hn::VFromD<DA> v) {
+    using A = hn::TFromD<DA>;
+    using T = hn::TFromD<DD>;
+    if constexpr (hwy::IsFloat<A>()) {
+        if constexpr (F == Finish::Exact || F == Finish::Clamp) return v;
+        else return hn::Mul(v, hn::Set(da, FloatScale<F>()));
+    } else if constexpr (F == Finish::Exact || F == Finish::Clamp) {
+        return SaturateTo(dd, v);
+    } else if constexpr (F == Finish::Gauss16) {
+        return SaturateTo(dd, ShiftRoundEven<4>(v));
+    } else if constexpr (F == Finish::Sharpen8) {
+        if constexpr (!std::is_signed_v<T>) v = hn::Max(v, hn::Zero(da));
+        return SaturateTo(dd, ShiftRoundEven<3>(v));
+    } else if constexpr ((F == Finish::Mean9 || F == Finish::Mean25) && sizeof(A) == 2) {
+        // 8-bit sums (S9 <= 2295, S25 <= 6375): fixed-point reciprocals,
+        // exact over those ranges (checked at compile time below).
+        const hn::RebindToUnsigned<DA> du;
+        if constexpr (F == Finish::Mean9) {
+            const auto q = hn::MulHigh(hn::BitCast(du, hn::Add(v, hn::Set(da, A(5)))), hn::Set(du, 7281));
+            return SaturateTo(dd, hn::BitCast(da, q));
+        } else {
+            const auto q = hn::MulHigh(hn::BitCast(du, hn::Add(v, hn::Set(da, A(12)))), hn::Set(du, 10486));
+            return SaturateTo(dd, hn::BitCast(da, hn::ShiftRight<2>(q)));
+        }
+    } else if constexpr (F == Finish::Mean9) {
+        return SaturateTo(dd, DivideNearest<9>(v));
+    } else if constexpr (F == Finish::Mean25) {
+        return SaturateTo(dd, DivideNearest<25>(v));
+    } else {
+        static_assert(F == Finish::Gauss571);
+        if constexpr (std::is_same_v<T, std::uint16_t>) {
+            return SaturateTo(dd, DivideNearest<571>(v));
+        } else {
+            const hn::Rebind<float, DA> df;
+            const auto scaled = hn::Mul(hn::ConvertTo(df, v), hn::Set(df, FloatScale<Finish::Gauss571>()));
+            return SaturateTo(dd, hn::NearestInt(scaled));
+        }
+    }
+}
+
+// Stores v at p, leaving out the alpha lanes when KeepAlpha. `alpha` marks
+// the lanes to write; every vector starts on a pixel boundary.
+template <bool KeepAlpha, class DD, class M>
+HWY_INLINE void StoreOut(hn::VFromD<DD> v, DD dd, const M& write, hn::TFromD<DD>* p) {
+    if constexpr (KeepAlpha) StoreUnderMask(v, write, dd, p);
+    else hn::StoreU(v, dd, p);
+}
+
+// The lanes of a vector that do not hold an alpha element, for vectors that
+// start on a pixel boundary of four-channel pixels.
+template <class DD>
+HWY_INLINE auto ColourLanes(DD dd) {
+    const hn::RebindToUnsigned<DD> du;
+    using U = hn::TFromD<decltype(du)>;
+    const auto colour = hn::Ne(hn::And(hn::Iota(du, 0), hn::Set(du, U(3))), hn::Set(du, U(3)));
+    return hn::And(hn::RebindMask(dd, colour), hn::FirstN(dd, hn::Lanes(dd)));
+}
+
+}  // namespace filter_detail
+
+// Lanes in which a kernel on S computes (fixed_kernels.h's rules).
+template <class K, class S>
+using FilterLane = filter::AccumulatorOf<K, S>;
+
+// Separable kernel K on a block; scratch holds ChunkScratch elements.
+template <class K, class S, class D, bool KeepAlpha>
+void SeparableBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std::ptrdiff_t dstStep,
+                    std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n,
+                    int channels, void* scratch) {
+    using namespace filter_detail;
+    using A = FilterLane<K, S>;
+    constexpr int R = K::kRadius;
+    const hn::ScalableTag<A> da;
+    const hn::Rebind<D, decltype(da)> dd;
+    const hn::CappedTag<A, 1> da1;
+    const hn::Rebind<D, decltype(da1)> dd1;
+    const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(da));
+    const std::ptrdiff_t reach = std::ptrdiff_t{R} * channels;
+    const auto write = ColourLanes(dd);
+    const auto write1 = ColourLanes(dd1);
+    A* mid = static_cast<A*>(scratch);
+    const S* src = static_cast<const S*>(srcBlock);
+    D* dst = static_cast<D*>(dstBlock);
+
+    for (std::ptrdiff_t y = 0; y < rows; ++y) {
+        const S* in[2 * R + 1];
+        for (int k = 0; k <= 2 * R; ++k) in[k] = rowAt(src, srcStep, y - R + k);
+        D* out = rowAt(dst, dstStep, y);
+        for (std::ptrdiff_t x0 = begin; x0 < end; x0 += std::min(end - x0, filter::kChunk)) {
+            const std::ptrdiff_t x1 = x0 + std::min(end - x0, filter::kChunk);
+            // Column values for elements [lo, hi); mid[i - lo].
+            const std::ptrdiff_t lo = x0 - reach;
+            const std::ptrdiff_t hi = x1 + reach - (KeepAlpha && x1 == n ? 1 : 0);
+            auto column = [&](auto d, std::ptrdiff_t i) {
+                hn::StoreU(SumTaps<typename K::ColumnTaps>(d, [&](std::size_t k) { return LoadAs(d, in[k] + i); }),
+                           d, mid + (i - lo));
+            };
+            std::ptrdiff_t i = lo;
+            for (; hi - i >= N; i += N) column(da, i);
+            for (; i < hi; ++i) column(da1, i);
+
+            auto row = [&](auto d, auto dOut, const auto& writeMask, std::ptrdiff_t x) {
+                const A* m = mid + (x - lo) - reach;
+                auto v = SumTaps<typename K::RowTaps>(d, [&](std::size_t k) {
+                    return hn::LoadU(d, m + static_cast<std::ptrdiff_t>(k) * channels);
+                });
+                if constexpr (K::kCentre != 0) v = hn::Add(Weighted<K::kCentre>(d, LoadAs(d, in[R] + x)), v);
+                StoreOut<KeepAlpha>(FinishTo<K::kFinish>(d, dOut, v), dOut, writeMask, out + x);
+            };
+            std::ptrdiff_t x = x0;
+            for (; x1 - x >= N; x += N) row(da, dd, write, x);
+            for (; x < x1; ++x)
+                if (!KeepAlpha || x % 4 != 3) row(da1, dd1, write1, x);
+        }
+    }
+}
+
+// Symmetric 5x5 kernel K on a block: the five source rows' horizontal
+// sums, added from the top row down.
+template <class K, class S, class D, bool KeepAlpha>
+void Symmetric5Block(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std::ptrdiff_t dstStep,
+                     std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n,
+                     int channels, void*) {
+    using namespace filter_detail;
+    using A = FilterLane<K, S>;
+    const hn::ScalableTag<A> da;
+    const hn::Rebind<D, decltype(da)> dd;
+    const hn::CappedTag<A, 1> da1;
+    const hn::Rebind<D, decltype(da1)> dd1;
+    const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(da));
+    const auto write = ColourLanes(dd);
+    const auto write1 = ColourLanes(dd1);
+    const S* src = static_cast<const S*>(srcBlock);
+    D* dst = static_cast<D*>(dstBlock);
+    // The vectors stop before an AC4 row's last alpha element, whose right
+    // neighbours lie past the last byte the caller provides.
+    const std::ptrdiff_t vectorEnd = KeepAlpha && end == n ? end - 1 : end;
+
+    for (std::ptrdiff_t y = 0; y < rows; ++y) {
+        const S* in[5];
+        for (int k = 0; k < 5; ++k) in[k] = rowAt(src, srcStep, y - 2 + k);
+        D* out = rowAt(dst, dstStep, y);
+        auto pixel = [&](auto d, auto dOut, const auto& writeMask, std::ptrdiff_t x) {
+            auto rowSum = [&](auto taps, int k) {
+                const S* p = in[k] + x - 2 * std::ptrdiff_t{channels};
+                return SumTaps<decltype(taps)>(d, [&](std::size_t t) {
+                    return LoadAs(d, p + static_cast<std::ptrdiff_t>(t) * channels);
+                });
+            };
+            auto v = rowSum(typename K::OuterTaps(), 0);
+            v = hn::Add(v, rowSum(typename K::InnerTaps(), 1));
+            v = hn::Add(v, rowSum(typename K::MiddleTaps(), 2));
+            v = hn::Add(v, rowSum(typename K::InnerTaps(), 3));
+            v = hn::Add(v, rowSum(typename K::OuterTaps(), 4));
+            StoreOut<KeepAlpha>(FinishTo<K::kFinish>(d, dOut, v), dOut, writeMask, out + x);
+        };
+        std::ptrdiff_t x = begin;
+        for (; vectorEnd - x >= N; x += N) pixel(da, dd, write, x);
+        for (; x < end; ++x)
+            if (!KeepAlpha || x % 4 != 3) pixel(da1, dd1, write1, x);
+    }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace zel
+HWY_AFTER_NAMESPACE();
+
+#endif  // ZEL_FILTER_TWO_PASS_INL_H_
