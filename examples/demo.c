@@ -78,6 +78,27 @@ static void drawVignette(Zel8u* rgb, int step, ZeliSize size) {
         }
 }
 
+/* Gives an image of `channels` 8-bit channels, whose ROI starts `border`
+   pixels into an allocation `border` pixels larger on every side, a border
+   that repeats its outermost pixels: the pixels a neighbourhood filter
+   reads around its ROI. Built from copies: the ROI's first and last rows
+   upwards and downwards, then every row's first and last pixels sideways. */
+static void replicateBorder(Zel8u* roi, int step, ZeliSize size, int border, int channels) {
+    const ZeliSize row = {size.width, 1};
+    for (int k = 1; k <= border; ++k) {
+        zeliCopy_8u_C1R(roi, step, roi - (long)k * step, step, (ZeliSize){size.width * channels, 1});
+        zeliCopy_8u_C1R(roi + (long)(size.height - 1) * step, step, roi + (long)(size.height - 1 + k) * step, step,
+                        (ZeliSize){row.width * channels, 1});
+    }
+    const ZeliSize column = {channels, size.height + 2 * border};
+    Zel8u* top = roi - (long)border * step;
+    for (int k = 1; k <= border; ++k) {
+        zeliCopy_8u_C1R(top, step, top - k * channels, step, column);
+        zeliCopy_8u_C1R(top + (size.width - 1) * channels, step, top + (size.width - 1 + k) * channels, step,
+                        column);
+    }
+}
+
 int main(int argc, char** argv) {
     if (argc > 1) outDir = argv[1];
     if (mkdir(outDir, 0755) != 0 && errno != EEXIST) {
@@ -149,6 +170,46 @@ int main(int argc, char** argv) {
     STEP("DivC_8u_C3IRSfs: in place, / 4 then * 2", zeliDivC_8u_C3IRSfs(quarter, shaded, shadedStep, size, -1));
     save("vignette_dark.png", shaded, shadedStep, size, 3);
 
+    /* Filters read pixels around their ROI: the picture gets a replicated
+       2-pixel border for a 5x5 Gaussian blur, and the Sobel derivatives of
+       the framed picture's green channel make an edge map, (|gx| + |gy|) / 4. */
+    int borderedStep = 0, blurredStep = 0, greyStep = 0, gxStep = 0, gyStep = 0, edgesStep = 0;
+    const ZeliSize withBorder = {size.width + 4, size.height + 4};
+    Zel8u* bordered = zeliMalloc_8u_C3(withBorder.width, withBorder.height, &borderedStep);
+    Zel8u* blurred = zeliMalloc_8u_C3(size.width, size.height, &blurredStep);
+    Zel8u* grey = zeliMalloc_8u_C1(withBorder.width, withBorder.height, &greyStep);
+    Zel16s* gx = zeliMalloc_16s_C1(size.width, size.height, &gxStep);
+    Zel16s* gy = zeliMalloc_16s_C1(size.width, size.height, &gyStep);
+    Zel8u* edges = zeliMalloc_8u_C1(size.width, size.height, &edgesStep);
+    if (!bordered || !blurred || !grey || !gx || !gy || !edges) return 1;
+    Zel8u* inside = bordered + 2 * borderedStep + 2 * 3;
+    STEP("Copy_8u_C3R: the picture inside a larger image", zeliCopy_8u_C3R(rgb, rgbStep, inside, borderedStep, size));
+    replicateBorder(inside, borderedStep, size, 2, 3);
+    STEP("FilterGauss_8u_C3R: 5x5 Gaussian blur",
+         zeliFilterGauss_8u_C3R(inside, borderedStep, blurred, blurredStep, size, zelMaskCode5x5));
+    save("blurred.png", blurred, blurredStep, size, 3);
+    Zel8u* greyInside = grey + 2 * greyStep + 2;
+    STEP("Copy_8u_C3C1R: the framed picture's green channel",
+         zeliCopy_8u_C3C1R(framed + 1, framedStep, greyInside, greyStep, size));
+    replicateBorder(greyInside, greyStep, size, 2, 1);
+    STEP("FilterSobelVert_8u16s_C1R: left minus right",
+         zeliFilterSobelVert_8u16s_C1R(greyInside, greyStep, gx, gxStep, size, zelMaskCode3x3));
+    STEP("FilterSobelHoriz_8u16s_C1R: below minus above",
+         zeliFilterSobelHoriz_8u16s_C1R(greyInside, greyStep, gy, gyStep, size, zelMaskCode3x3));
+    for (int y = 0; y < size.height; ++y)
+        for (int x = 0; x < size.width; ++x) {
+            int a = gx[(long)y * gxStep / 2 + x], b = gy[(long)y * gyStep / 2 + x];
+            int m = (abs(a) + abs(b)) / 4;
+            edges[(long)y * edgesStep + x] = (Zel8u)(m > 255 ? 255 : m);
+        }
+    save("edges.png", edges, edgesStep, size, 1);
+
+    zeliFree(edges);
+    zeliFree(gy);
+    zeliFree(gx);
+    zeliFree(grey);
+    zeliFree(blurred);
+    zeliFree(bordered);
     zeliFree(shaded);
     zeliFree(vignette);
     zeliFree(difference);

@@ -27,13 +27,14 @@ using BlockKernel = void (*)(const void* src, std::ptrdiff_t srcStep, void* dst,
                              int channels, void* scratch);
 
 // What a call runs: the block kernel of the best SIMD target, the kernel's
-// radius, the scratch elements of one thread, their size, and whether the
-// kernel computes in floating point (then it runs under the standard
-// floating-point environment, whatever the caller's).
+// radius, the scratch of one thread (fixedElements + elementsPerChannel *
+// channels lanes of laneBytes), and whether the kernel computes in floating
+// point (then it runs under the standard floating-point environment,
+// whatever the caller's).
 struct Plan {
     BlockKernel kernel;
     int radius;
-    bool scratch;
+    std::ptrdiff_t fixedElements, elementsPerChannel;
     int laneBytes;
     bool floatMath;
 };
@@ -48,12 +49,12 @@ constexpr bool kFloatMath = std::is_floating_point_v<S> ||
 
 template <class K, class S, class D, bool KeepAlpha>
 Plan planOf() {
-    const int laneBytes = static_cast<int>(sizeof(AccumulatorOf<K, S>));
     if constexpr (K::kSymmetric5)
-        return Plan{ZEL_DISPATCH(Symmetric5Block<K, S, D, KeepAlpha>), 2, false, laneBytes, kFloatMath<K, S>};
+        return Plan{ZEL_DISPATCH(Symmetric5Block<K, S, D, KeepAlpha>), 2, 15 * kRingChunk, 0,
+                    static_cast<int>(sizeof(ProfileLaneOf<K, S>)), kFloatMath<K, S>};
     else
-        return Plan{ZEL_DISPATCH(SeparableBlock<K, S, D, KeepAlpha>), K::kRadius, true, laneBytes,
-                    kFloatMath<K, S>};
+        return Plan{ZEL_DISPATCH(SeparableBlock<K, S, D, KeepAlpha>), K::kRadius, kChunk, 2 * K::kRadius,
+                    static_cast<int>(sizeof(AccumulatorOf<K, S>)), kFloatMath<K, S>};
 }
 
 // A family's kernels: K3 for the 3x3 mask, K5 for the 5x5 one.
@@ -95,14 +96,11 @@ ZelStatus runPlan(const Plan& plan, const S* src, int srcStep, D* dst, int dstSt
     const std::int64_t touched = (std::int64_t{sizeof(S)} + sizeof(D)) * n * roi.height;
     const int team = teamSize(touched, forkCost(plan.radius), pieceCount(roi.height, n, kGrain));
 
-    // One scratch chunk per thread, on its own cache lines.
+    // Scratch for each thread, on its own cache lines.
     const std::size_t perThread =
-        plan.scratch ? (static_cast<std::size_t>(kChunk + 2 * plan.radius * C) * plan.laneBytes + 63) / 64 * 64 : 0;
-    Buffer<std::uint8_t> scratch;
-    if (perThread != 0) {
-        scratch = allocBuffer<std::uint8_t>(perThread * team);
-        if (!scratch) return zelStatusNoMemory;
-    }
+        (static_cast<std::size_t>(plan.fixedElements + plan.elementsPerChannel * C) * plan.laneBytes + 63) / 64 * 64;
+    Buffer<std::uint8_t> scratch = allocBuffer<std::uint8_t>(perThread * team);
+    if (!scratch) return zelStatusNoMemory;
     std::optional<StandardFpEnvironment> environment;
     if (plan.floatMath) environment.emplace();
     forEachBlock(roi.height, n, kGrain, team, [&](const Block& b) {

@@ -133,6 +133,17 @@ using AccumulatorOf =
                        std::conditional_t<sizeof(S) == 1 && K::kFinish != Finish::Gauss571, std::int16_t,
                                           std::int32_t>>;
 
+// Lanes of the Symmetric5 row profiles: the 8-bit Gauss profiles are
+// non-negative and at most 255 * 255, so they fit unsigned 16-bit lanes
+// (their five-row sum takes the 32-bit lanes above); the others as above.
+template <class K, class S>
+using ProfileLaneOf = std::conditional_t<sizeof(S) == 1 && K::kFinish == Finish::Gauss571, std::uint16_t,
+                                         AccumulatorOf<K, S>>;
+
+// Elements of a row the Symmetric5 kernels keep per ring row: fifteen ring
+// rows of them stay in the first-level cache.
+constexpr std::ptrdiff_t kRingChunk = 512;
+
 // Elements of a row the separable kernels compute per pass: the column
 // values of a chunk stay in the first-level cache until the row pass reads
 // them. A multiple of every vector length and of four-channel pixels.

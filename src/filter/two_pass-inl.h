@@ -10,7 +10,8 @@
 // read only where the kernel reaches: r rows above and below, r pixels left
 // and right, and never the alpha element of an AC4 row's last pixel.
 //
-// Separable kernels run the column pass into a scratch row of column values
+// Symmetric 5x5 kernels keep each source row's three row profiles in a
+// ring of five rows. Separable kernels run the column pass into a scratch row of column values
 // (one chunk of the row at a time, so scratch stays small and in the first
 // level cache) and the row pass from it. Integer lanes hold every value
 // exactly: 16-bit lanes for 8-bit sources, 32-bit lanes for 16-bit ones and
@@ -293,49 +294,78 @@ void SeparableBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock
     }
 }
 
-// Symmetric 5x5 kernel K on a block: the five source rows' horizontal
-// sums, added from the top row down.
+// Symmetric 5x5 kernel K on a block. Every source row's three horizontal
+// profiles (the kernel's rows for |dy| = 2, 1 and 0) are computed once, into
+// a ring of the five rows the current output row needs; the output row adds
+// the five matching profiles from the top row down. The block is worked in
+// strips of kRingChunk elements so that the ring stays in the first-level
+// cache; each strip starts its ring afresh.
 template <class K, class S, class D, bool KeepAlpha>
 void Symmetric5Block(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std::ptrdiff_t dstStep,
                      std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n,
-                     int channels, void*) {
+                     int channels, void* scratch) {
     using namespace filter_detail;
     using A = FilterLane<K, S>;
+    using P = filter::ProfileLaneOf<K, S>;
     const hn::ScalableTag<A> da;
     const hn::Rebind<D, decltype(da)> dd;
     const hn::CappedTag<A, 1> da1;
     const hn::Rebind<D, decltype(da1)> dd1;
+    // Profiles fill whole vectors of their own lanes.
+    const hn::ScalableTag<P> dp;
+    const hn::CappedTag<P, 1> dp1;
     const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(da));
+    const std::ptrdiff_t NP = static_cast<std::ptrdiff_t>(hn::Lanes(dp));
     const auto write = ColourLanes(dd);
     const auto write1 = ColourLanes(dd1);
     const S* src = static_cast<const S*>(srcBlock);
     D* dst = static_cast<D*>(dstBlock);
-    // The vectors stop before an AC4 row's last alpha element, whose right
-    // neighbours lie past the last byte the caller provides.
-    const std::ptrdiff_t vectorEnd = KeepAlpha && end == n ? end - 1 : end;
+    P* ring = static_cast<P*>(scratch);
+    constexpr std::ptrdiff_t kStrip = filter::kRingChunk;
+    // profile(slot, which): one profile row of the ring.
+    auto profile = [&](std::ptrdiff_t slot, int which) { return ring + (slot * 3 + which) * kStrip; };
 
-    for (std::ptrdiff_t y = 0; y < rows; ++y) {
-        const S* in[5];
-        for (int k = 0; k < 5; ++k) in[k] = rowAt(src, srcStep, y - 2 + k);
-        D* out = rowAt(dst, dstStep, y);
-        auto pixel = [&](auto d, auto dOut, const auto& writeMask, std::ptrdiff_t x) {
-            auto rowSum = [&](auto taps, int k) {
-                const S* p = in[k] + x - 2 * std::ptrdiff_t{channels};
-                return SumTaps<decltype(taps)>(d, [&](std::size_t t) {
-                    return LoadAs(d, p + static_cast<std::ptrdiff_t>(t) * channels);
-                });
+    for (std::ptrdiff_t x0 = begin; x0 < end; x0 += std::min(end - x0, kStrip)) {
+        const std::ptrdiff_t x1 = x0 + std::min(end - x0, kStrip);
+        // Vectors stop before an AC4 row's last alpha element, whose right
+        // neighbours lie past the last byte the caller provides.
+        const std::ptrdiff_t vectorEnd = KeepAlpha && x1 == n ? x1 - 1 : x1;
+
+        // The three profiles of source row y (relative to the block) into
+        // ring slot `slot`.
+        auto profiles = [&](std::ptrdiff_t y, std::ptrdiff_t slot) {
+            const S* in = rowAt(src, srcStep, y) - 2 * std::ptrdiff_t{channels};
+            P* outer = profile(slot, 0);
+            P* inner = profile(slot, 1);
+            P* middle = profile(slot, 2);
+            auto at = [&](auto d, std::ptrdiff_t x) {
+                auto load = [&](std::size_t t) { return LoadAs(d, in + x + static_cast<std::ptrdiff_t>(t) * channels); };
+                hn::StoreU(SumTaps<typename K::OuterTaps>(d, load), d, outer + (x - x0));
+                hn::StoreU(SumTaps<typename K::InnerTaps>(d, load), d, inner + (x - x0));
+                hn::StoreU(SumTaps<typename K::MiddleTaps>(d, load), d, middle + (x - x0));
             };
-            auto v = rowSum(typename K::OuterTaps(), 0);
-            v = hn::Add(v, rowSum(typename K::InnerTaps(), 1));
-            v = hn::Add(v, rowSum(typename K::MiddleTaps(), 2));
-            v = hn::Add(v, rowSum(typename K::InnerTaps(), 3));
-            v = hn::Add(v, rowSum(typename K::OuterTaps(), 4));
-            StoreOut<KeepAlpha>(FinishTo<K::kFinish>(d, dOut, v), dOut, writeMask, out + x);
+            std::ptrdiff_t x = x0;
+            for (; vectorEnd - x >= NP; x += NP) at(dp, x);
+            for (; x < x1; ++x)
+                if (!KeepAlpha || x % 4 != 3) at(dp1, x);
         };
-        std::ptrdiff_t x = begin;
-        for (; vectorEnd - x >= N; x += N) pixel(da, dd, write, x);
-        for (; x < end; ++x)
-            if (!KeepAlpha || x % 4 != 3) pixel(da1, dd1, write1, x);
+        for (std::ptrdiff_t k = 0; k < 4; ++k) profiles(k - 2, k);
+
+        for (std::ptrdiff_t y = 0; y < rows; ++y) {
+            profiles(y + 2, (y + 4) % 5);
+            const P* p[5] = {profile(y % 5, 0), profile((y + 1) % 5, 1), profile((y + 2) % 5, 2),
+                             profile((y + 3) % 5, 1), profile((y + 4) % 5, 0)};
+            D* out = rowAt(dst, dstStep, y);
+            auto pixel = [&](auto d, auto dOut, const auto& writeMask, std::ptrdiff_t x) {
+                auto v = LoadAs(d, p[0] + (x - x0));
+                for (int k = 1; k < 5; ++k) v = hn::Add(v, LoadAs(d, p[k] + (x - x0)));
+                StoreOut<KeepAlpha>(FinishTo<K::kFinish>(d, dOut, v), dOut, writeMask, out + x);
+            };
+            std::ptrdiff_t x = x0;
+            for (; x1 - x >= N; x += N) pixel(da, dd, write, x);
+            for (; x < x1; ++x)
+                if (!KeepAlpha || x % 4 != 3) pixel(da1, dd1, write1, x);
+        }
     }
 }
 
