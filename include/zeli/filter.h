@@ -23,10 +23,13 @@ extern "C" {
    error. C3 and C4 filter every channel; AC4 filters the three colour
    channels and leaves the destination alpha unwritten.
 
-   32f results are single-precision sums in a fixed order (the column pass,
-   top row first, then the row pass, left column first), the same on every
-   processor and for any thread count; multiplications by the reciprocal of
-   a divisor come last. Integer results are the exact kernel value, then
+   32f results are single-precision sums in one fixed order, the same on
+   every processor and for any thread count: the column pass, then the row
+   pass (Gauss and Laplace 5x5: each source row's row sum, then the five
+   row sums from the top down); within a pass the terms from the top row
+   (left column) on, where a symmetric weighting adds the two mirrored
+   pixels before weighting them; multiplications by the reciprocal of a
+   divisor come last. Integer results are the exact kernel value, then
    rounded and saturated as each family states. */
 
 /* FilterSobelHoriz: (row below) - (row above), each weighted 1 2 1. The

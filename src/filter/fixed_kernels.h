@@ -14,7 +14,8 @@
 //
 // Taps run from offset -r to +r (rows downward, columns rightward). For
 // integer sources the passes are exact, so the result is the kernel's own
-// 2-D value; 32f computes in single precision in this order.
+// 2-D value; 32f computes in single precision in this order (SumTaps in
+// two_pass-inl.h fixes the order of the terms within a pass).
 #pragma once
 
 #include <cstddef>
@@ -134,8 +135,9 @@ using AccumulatorOf =
                                           std::int32_t>>;
 
 // Lanes of the Symmetric5 row profiles: the 8-bit Gauss profiles are
-// non-negative and at most 255 * 255, so they fit unsigned 16-bit lanes
-// (their five-row sum takes the 32-bit lanes above); the others as above.
+// non-negative and at most 255 * 255, so they fit unsigned 16-bit lanes, and
+// so do the sums of two mirrored rows' profiles (at most 2 * 128 * 255); the
+// five-row sum takes the 32-bit lanes above. The others as above.
 template <class K, class S>
 using ProfileLaneOf = std::conditional_t<sizeof(S) == 1 && K::kFinish == Finish::Gauss571, std::uint16_t,
                                          AccumulatorOf<K, S>>;

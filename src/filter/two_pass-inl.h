@@ -73,34 +73,37 @@ HWY_INLINE V AddTapsFrom(D d, const Load& load, V acc) {
     }
 }
 
-// Integer lanes: a symmetric kernel adds each pair of mirrored inputs
-// before weighting it.
+// A symmetric kernel adds each pair of mirrored inputs before weighting it.
+template <class Tp, std::size_t K, class Load>
+HWY_INLINE auto MirroredPair(const Load& load) {
+    constexpr std::size_t kMirror = Tp::kCount - 1 - K;
+    if constexpr (K == kMirror) return load(K);
+    else return hn::Add(load(K), load(kMirror));
+}
 template <class Tp, std::size_t K, class D, class Load, class V>
 HWY_INLINE V AddPairsFrom(D d, const Load& load, V acc) {
-    constexpr std::size_t kMirror = Tp::kCount - 1 - K;
-    if constexpr (K > kMirror) {
+    if constexpr (K > Tp::kCount - 1 - K) {
         return acc;
     } else if constexpr (Tp::kWeights[K] == 0) {
         return AddPairsFrom<Tp, K + 1>(d, load, acc);
-    } else if constexpr (K == kMirror) {
-        return AddWeighted<Tp::kWeights[K]>(d, acc, load(K));
     } else {
-        return AddPairsFrom<Tp, K + 1>(d, load,
-                                       AddWeighted<Tp::kWeights[K]>(d, acc, hn::Add(load(K), load(kMirror))));
+        return AddPairsFrom<Tp, K + 1>(d, load, AddWeighted<Tp::kWeights[K]>(d, acc, MirroredPair<Tp, K>(load)));
     }
 }
 
-// The taps' weighted sum of load(0) .. load(count - 1). Floating-point
-// lanes add the products in tap order, starting from the first non-zero
-// tap's product.
+// The taps' weighted sum of load(0) .. load(count - 1), starting from the
+// first non-zero tap's product and adding the others in tap order; the
+// inputs of a symmetric kernel are added in mirrored pairs first. The
+// order is fixed, so 32f sums carry the same bits on every target.
 template <class Tp, class D, class Load>
 HWY_INLINE hn::VFromD<D> SumTaps(D d, const Load& load) {
     constexpr std::size_t kFirst = Tp::firstNonZero();
     static_assert(kFirst < Tp::kCount, "a kernel with no weight");
-    if constexpr (!hwy::IsFloat<hn::TFromD<D>>() && Tp::symmetric()) {
-        return AddPairsFrom<Tp, 0>(d, load, hn::Zero(d));
+    constexpr int kWeight = Tp::kWeights[kFirst];
+    if constexpr (Tp::symmetric()) {
+        return AddPairsFrom<Tp, kFirst + 1>(d, load, Weighted<kWeight>(d, MirroredPair<Tp, kFirst>(load)));
     } else {
-        return AddTapsFrom<Tp, kFirst + 1>(d, load, Weighted<Tp::kWeights[kFirst]>(d, load(kFirst)));
+        return AddTapsFrom<Tp, kFirst + 1>(d, load, Weighted<kWeight>(d, load(kFirst)));
     }
 }
 
@@ -357,8 +360,19 @@ void Symmetric5Block(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBloc
                              profile((y + 3) % 5, 1), profile((y + 4) % 5, 0)};
             D* out = rowAt(dst, dstStep, y);
             auto pixel = [&](auto d, auto dOut, const auto& writeMask, std::ptrdiff_t x) {
-                auto v = LoadAs(d, p[0] + (x - x0));
-                for (int k = 1; k < 5; ++k) v = hn::Add(v, LoadAs(d, p[k] + (x - x0)));
+                hn::VFromD<decltype(d)> v;
+                if constexpr (std::is_same_v<P, A>) {
+                    v = hn::LoadU(d, p[0] + (x - x0));
+                    for (int k = 1; k < 5; ++k) v = hn::Add(v, hn::LoadU(d, p[k] + (x - x0)));
+                } else {
+                    // Narrow integer profiles: the mirrored rows' sums still
+                    // fit the profile lanes, so three widenings instead of five.
+                    const hn::Rebind<P, decltype(d)> dq;
+                    auto load = [&](int k) { return hn::LoadU(dq, p[k] + (x - x0)); };
+                    v = hn::Add(hn::PromoteTo(d, hn::Add(load(0), load(4))),
+                                hn::PromoteTo(d, hn::Add(load(1), load(3))));
+                    v = hn::Add(v, hn::PromoteTo(d, load(2)));
+                }
                 StoreOut<KeepAlpha>(FinishTo<K::kFinish>(d, dOut, v), dOut, writeMask, out + x);
             };
             std::ptrdiff_t x = x0;

@@ -285,6 +285,32 @@ TEST(FixedFilters, SignConventions) {
     EXPECT_EQ((single<Zel8u, Zel8u>("zeliFilterRobertsUp_8u_C1R", {0, 0, 3, 0, 10, 0, 0, 0, 0})), 7);
 }
 
+// Roberts on 16s and 32f moves one row up by the step rounded down to the
+// element size; the rows themselves advance by the full step.
+TEST(FixedFilters, RobertsRoundsTheStepUpwardsOnly) {
+    const ZeliSize roi{13, 4};
+    const int step = 13 * 2 + 2 * 2 + 3;  // odd: rows start on odd addresses
+    std::vector<std::uint8_t> bytes(step * 6 + 64);
+    std::mt19937 rng(9);
+    for (auto& b : bytes) b = static_cast<std::uint8_t>(rng());
+    const std::uint8_t* first = bytes.data() + step + 2;  // pixel (0, 0)
+    auto at = [&](const std::uint8_t* p) {
+        Zel16s v;
+        std::memcpy(&v, p, 2);
+        return v;
+    };
+    std::vector<Zel16s> out(roi.width * roi.height);
+    ASSERT_EQ(zeliFilterRobertsDown_16s_C1R(reinterpret_cast<const Zel16s*>(first), step, out.data(),
+                                            roi.width * 2, roi),
+              zelStatusOk);
+    for (int y = 0; y < roi.height; ++y)
+        for (int x = 0; x < roi.width; ++x) {
+            const std::uint8_t* pixel = first + std::ptrdiff_t{y} * step + 2 * x;
+            const int want = at(pixel) - at(pixel - (step - 1) - 2);
+            ASSERT_EQ(out[y * roi.width + x], saturate<Zel16s>(want)) << x << "," << y;
+        }
+}
+
 // The source may end at the last byte the kernel reaches (the last border
 // pixel's colour channels for AC4) and be followed by an inaccessible page.
 TEST(FixedFilters, ReadNothingBeyondTheBorder) {
