@@ -160,6 +160,17 @@ HWY_INLINE V DivideNearest(V v) {
     return hn::IfThenElse(hn::Gt(r, hn::Set(di, Divisor - 1)), hn::Add(q, hn::Set(di, 1)), q);
 }
 
+// floor((s + bias) * multiplier / 2^shift) is s / divisor rounded to
+// nearest for every s in 0..maxSum: the 16-bit fixed-point means of 8-bit
+// sums.
+constexpr bool fixedPointMeanExact(int divisor, int bias, int multiplier, int shift, int maxSum) {
+    for (long s = 0; s <= maxSum; ++s)
+        if (((s + bias) * multiplier >> shift) != (2 * s + divisor) / (2 * divisor)) return false;
+    return true;
+}
+static_assert(fixedPointMeanExact(9, 5, 7281, 16, 9 * 255) && fixedPointMeanExact(25, 12, 10486, 18, 25 * 255),
+              "a fixed-point mean is not exact");
+
 // The float nearest to 1 / divisor, as the 32f members scale by it.
 inline float FloatBits(std::uint32_t bits) {
     float f;
@@ -195,7 +206,7 @@ HWY_INLINE hn::VFromD<DD> FinishTo(DA da, DD dd, hn::VFromD<DA> v) {
         return SaturateTo(dd, ShiftRoundEven<3>(v));
     } else if constexpr ((F == Finish::Mean9 || F == Finish::Mean25) && sizeof(A) == 2) {
         // 8-bit sums (S9 <= 2295, S25 <= 6375): fixed-point reciprocals,
-        // exact over those ranges (checked at compile time below).
+        // exact over those ranges (fixedPointMeanExact).
         const hn::RebindToUnsigned<DA> du;
         if constexpr (F == Finish::Mean9) {
             const auto q = hn::MulHigh(hn::BitCast(du, hn::Add(v, hn::Set(da, A(5)))), hn::Set(du, 7281));
@@ -220,8 +231,8 @@ HWY_INLINE hn::VFromD<DD> FinishTo(DA da, DD dd, hn::VFromD<DA> v) {
     }
 }
 
-// Stores v at p, leaving out the alpha lanes when KeepAlpha. `alpha` marks
-// the lanes to write; every vector starts on a pixel boundary.
+// Stores v at p, leaving out the alpha lanes when KeepAlpha: `write` marks
+// the lanes to store; every vector starts on a pixel boundary.
 template <bool KeepAlpha, class DD, class M>
 HWY_INLINE void StoreOut(hn::VFromD<DD> v, DD dd, const M& write, hn::TFromD<DD>* p) {
     if constexpr (KeepAlpha) StoreUnderMask(v, write, dd, p);
@@ -240,17 +251,14 @@ HWY_INLINE auto ColourLanes(DD dd) {
 
 }  // namespace filter_detail
 
-// Lanes in which a kernel on S computes (fixed_kernels.h's rules).
-template <class K, class S>
-using FilterLane = filter::AccumulatorOf<K, S>;
-
-// Separable kernel K on a block; scratch holds ChunkScratch elements.
+// Separable kernel K on a block; scratch holds kChunk + 2 r channels lanes
+// of column values.
 template <class K, class S, class D, bool KeepAlpha>
 void SeparableBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std::ptrdiff_t dstStep,
                     std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n,
                     int channels, void* scratch) {
     using namespace filter_detail;
-    using A = FilterLane<K, S>;
+    using A = filter::AccumulatorOf<K, S>;
     constexpr int R = K::kRadius;
     const hn::ScalableTag<A> da;
     const hn::Rebind<D, decltype(da)> dd;
@@ -308,7 +316,7 @@ void Symmetric5Block(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBloc
                      std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n,
                      int channels, void* scratch) {
     using namespace filter_detail;
-    using A = FilterLane<K, S>;
+    using A = filter::AccumulatorOf<K, S>;
     using P = filter::ProfileLaneOf<K, S>;
     const hn::ScalableTag<A> da;
     const hn::Rebind<D, decltype(da)> dd;
