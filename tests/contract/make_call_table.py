@@ -16,7 +16,7 @@ import re
 import sys
 
 ELEMENTS = {  # type suffix: (C type, bytes, floating point)
-    '8u': ('Zel8u', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
+    '8u': ('Zel8u', 1, False), '8s': ('Zel8s', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
     '32s': ('Zel32s', 4, False), '32f': ('Zel32f', 4, True), '16sc': ('Zel16sc', 4, False),
     '32sc': ('Zel32sc', 8, False), '32fc': ('Zel32fc', 8, True),
 }
@@ -38,6 +38,8 @@ STEP_CHECKS = {
 }
 for fam in ('Add', 'AddC', 'Sub', 'SubC', 'Mul', 'MulC'):
     STEP_CHECKS[fam] = lambda t, lay: t in ('16sc', '32fc')
+for fam in ('And', 'AndC', 'Or', 'OrC', 'Xor', 'XorC', 'Not', 'LShiftC', 'RShiftC'):
+    STEP_CHECKS[fam] = lambda t, lay: True
 
 # The library frame: functions without image operands.
 FRAME = [
@@ -143,6 +145,13 @@ def image_entry(name, params):
             continue
         if pname in ('roi', 'roiSize') and ptype == 'ZeliSize':
             args.append('c.roi')
+        elif pname == 'value' and ptype.replace('const ', '') == 'Zel32u':
+            # shift counts: unsigned, whatever the element type
+            if arr is not None:
+                args.append('c.values<Zel32u>()')
+                nulls.append('{"value[]", -2, -1}')
+            else:
+                args.append('c.scalar<Zel32u>()')
         elif pname == 'value' and arr is not None:
             args.append('c.values<%s>()' % ctype)
             nulls.append('{"value[]", -2, -1}')
