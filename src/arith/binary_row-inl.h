@@ -253,6 +253,27 @@ HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::pt
             hn::StoreU(r0, dn, dst + x);
             hn::StoreU(r1, dn, dst + x + lanes);
         }
+    } else if (keep == nullptr && lanes % period == 0) {
+        // Every vector starts on a pixel: one pattern vector serves them all.
+        const auto vq = hn::LoadU(dn, q);
+        for (; n - x >= 2 * lanes; x += 2 * lanes) {
+            const auto r0 = compute(hn::LoadU(dn, p + x), vq);
+            const auto r1 = compute(hn::LoadU(dn, p + x + lanes), vq);
+            hn::StoreU(r0, dn, dst + x);
+            hn::StoreU(r1, dn, dst + x + lanes);
+        }
+    } else if (keep == nullptr && period == 3) {
+        // Three vectors hold whole pixels; the loop below starts again at
+        // the pattern's first vector.
+        const auto q0 = hn::LoadU(dn, q), q1 = hn::LoadU(dn, q + lanes), q2 = hn::LoadU(dn, q + 2 * lanes);
+        for (; n - x >= 3 * lanes; x += 3 * lanes) {
+            const auto r0 = compute(hn::LoadU(dn, p + x), q0);
+            const auto r1 = compute(hn::LoadU(dn, p + x + lanes), q1);
+            const auto r2 = compute(hn::LoadU(dn, p + x + 2 * lanes), q2);
+            hn::StoreU(r0, dn, dst + x);
+            hn::StoreU(r1, dn, dst + x + lanes);
+            hn::StoreU(r2, dn, dst + x + 2 * lanes);
+        }
     }
     for (; n - x >= lanes; x += lanes) {
         const auto r = compute(hn::LoadU(dn, p + x), hn::LoadU(dn, qPattern ? q + j * lanes : q + x));
