@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "harness/image.h"
+#include "harness/pages.h"
 #include "harness/sweep.h"
 
 namespace zel::test {
@@ -201,6 +202,40 @@ TEST(Logic, EveryShiftCountFrom0To40) {
             }
         });
     }
+}
+
+// Every operand's last row ends right before an inaccessible page (an AC4
+// row at its last colour element, so the last alpha lies on that page):
+// nothing past the row is read or written.
+TEST(Logic, NothingReadOrWrittenPastTheRow) {
+    Fenced fa(1 << 14), fb(1 << 14), fd(1 << 14);
+    ASSERT_TRUE(fa.ok() && fb.ok() && fd.ok());
+    const Zel32u counts[4] = {1, 9, 0, 40};
+    forEachConfig([&] {
+        for (const Member& m : members())
+            for (ZeliSize roi : {ZeliSize{1, 1}, ZeliSize{37, 3}})
+                byType(m, [&](auto t) {
+                    using T = decltype(t);
+                    const std::size_t row = std::size_t(roi.width) * m.channels * sizeof(T);
+                    const int step = int(row + 8);
+                    const std::size_t span = std::size_t(step) * (roi.height - 1) + row -
+                                             (m.channels - m.computed) * sizeof(T);
+                    const auto place = [&](Fenced& f) { return reinterpret_cast<T*>(f.data() + f.size() - span); };
+                    T *a = place(fa), *b = place(fb), *d = place(fd), *out = !m.inPlace ? d : m.two ? b : a;
+                    const T values[4] = {T(0x5a), T(0x3c), T(0x7f), T(0x11)};
+                    const T* start = m.two ? b : a;
+                    const std::vector<T> p(start, start + span / sizeof(T)), q(a, a + span / sizeof(T));
+                    const void* v = isShift(m.kind) ? static_cast<const void*>(counts) : values;
+                    ASSERT_EQ(guardedCall(m.name, [&] { return m.call(a, step, b, step, out, step, roi, v); }), 0);
+                    for (int y = 0; y < roi.height; ++y)
+                        for (int i = 0; i < roi.width * m.channels; ++i) {
+                            const std::size_t at = std::size_t(y) * step / sizeof(T) + i;
+                            const int c = i % m.channels;
+                            if (c >= m.computed) continue;
+                            ASSERT_EQ(out[at], rule(m.kind, p[at], m.two ? q[at] : values[c], counts[c]));
+                        }
+                });
+    });
 }
 
 // Null pointers (the value array too), then steps, then the size: each
