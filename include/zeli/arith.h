@@ -371,8 +371,8 @@ ZELAPI ZelStatus zeliMulCScale_16u_AC4IR(const Zel16u value[3], Zel16u* pSrcDst,
    channel (three for AC4). Not: XOR with 255 (Not_8u_C1R is XorC_8u_C1R with
    255). AC4 members leave the fourth channel as it is: it is neither read nor
    written.
-   Checks, in this order, for every member of these families and of the
-   shifts below: a null image or value-array pointer gives zelStatusNullPtr,
+   Checks, in this order, for every member of these families (Not included)
+   and of the shifts below: a null image or value-array pointer gives zelStatusNullPtr,
    then a step below 1 zelStatusBadStep, then a width or height below 1
    zelStatusBadSize (steps before size, the reverse of Copy). Nothing is
    written on failure. */
@@ -530,8 +530,8 @@ ZELAPI ZelStatus zeliNot_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, in
 ZELAPI ZelStatus zeliNot_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
 /* LShiftC: pDst = pSrc << value per channel. RShiftC: pDst = pSrc >> value,
    logical for the unsigned types, arithmetic (sign-propagating) for 8s, 16s
-   and 32s. Counts are unsigned, one per channel for C3, C4 and AC4, each
-   channel shifted by its own count:
+   and 32s. Counts are unsigned, one per channel for C3 and C4 (three for
+   AC4, whose alpha is left as it is), each channel shifted by its own count:
    - a count of 0 leaves the element as it is; when every count is 0 the call
      is a Copy (in place: nothing is written);
    - left shifts and unsigned right shifts by W or more (W = 8, 16 or 32, the
