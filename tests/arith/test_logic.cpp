@@ -1,6 +1,7 @@
 // Logic and shifts: every member against a scalar rule on guarded, unaligned
 // images under every target and thread count, every 8-bit operand pair,
-// every shift count from 0 to 40, and the check order of each member.
+// every shift count from 0 to 40, operands that end at an inaccessible page,
+// and the check order of each member.
 #include <algorithm>
 #include <array>
 #include <random>
