@@ -365,6 +365,248 @@ ZELAPI ZelStatus zeliMulCScale_16u_C4IR(const Zel16u value[4], Zel16u* pSrcDst, 
 ZELAPI ZelStatus zeliMulCScale_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
 ZELAPI ZelStatus zeliMulCScale_16u_AC4IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
 
+/* ==== Image logic and shifts ============================================= */
+/* And, Or, Xor: pDst = pSrc1 AND / OR / XOR pSrc2 per channel (in place:
+   pSrcDst op= pSrc). AndC, OrC, XorC: the same with a constant, one value per
+   channel (three for AC4). Not: XOR with 255 (Not_8u_C1R is XorC_8u_C1R with
+   255). AC4 members leave the fourth channel as it is: it is neither read nor
+   written.
+   Checks, in this order, for every member of these families (Not included)
+   and of the shifts below: a null image or value-array pointer gives zelStatusNullPtr,
+   then a step below 1 zelStatusBadStep, then a width or height below 1
+   zelStatusBadSize (steps before size, the reverse of Copy). Nothing is
+   written on failure. */
+ZELAPI ZelStatus zeliAnd_8u_C1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C1IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C3R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C3IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_C4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_AC4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_8u_AC4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C1R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C1IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C3R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C3IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_C4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_AC4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_16u_AC4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C1R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C1IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C3R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C3IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C4R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_C4IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_AC4R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAnd_32s_AC4IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C3R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C3IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C4R(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_C4IR(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_AC4R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_8u_AC4IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C3R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C3IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C4R(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_C4IR(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_16u_AC4IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C3R(const Zel32s* pSrc, int srcStep, const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C3IR(const Zel32s value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C4R(const Zel32s* pSrc, int srcStep, const Zel32s value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_C4IR(const Zel32s value[4], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_AC4R(const Zel32s* pSrc, int srcStep, const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAndC_32s_AC4IR(const Zel32s value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C1IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C3R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C3IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_C4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_AC4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_8u_AC4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C1R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C1IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C3R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C3IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_C4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_AC4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_16u_AC4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C1R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C1IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C3R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C3IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C4R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_C4IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_AC4R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOr_32s_AC4IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C3R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C3IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C4R(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_C4IR(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_AC4R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_8u_AC4IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C3R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C3IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C4R(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_C4IR(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_16u_AC4IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C3R(const Zel32s* pSrc, int srcStep, const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C3IR(const Zel32s value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C4R(const Zel32s* pSrc, int srcStep, const Zel32s value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_C4IR(const Zel32s value[4], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_AC4R(const Zel32s* pSrc, int srcStep, const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliOrC_32s_AC4IR(const Zel32s value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C1IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C3R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C3IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_C4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_AC4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_8u_AC4IR(const Zel8u* pSrc, int srcStep, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C1R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C1IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C3R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C3IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_C4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_AC4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_16u_AC4IR(const Zel16u* pSrc, int srcStep, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C1R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C1IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C3R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C3IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C4R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_C4IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_AC4R(const Zel32s* pSrc1, int src1Step, const Zel32s* pSrc2, int src2Step, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXor_32s_AC4IR(const Zel32s* pSrc, int srcStep, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C1IR(Zel8u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C3R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C3IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C4R(const Zel8u* pSrc, int srcStep, const Zel8u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_C4IR(const Zel8u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_AC4R(const Zel8u* pSrc, int srcStep, const Zel8u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_8u_AC4IR(const Zel8u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C1IR(Zel16u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C3R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C3IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C4R(const Zel16u* pSrc, int srcStep, const Zel16u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_C4IR(const Zel16u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel16u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_16u_AC4IR(const Zel16u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32s value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C1IR(Zel32s value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C3R(const Zel32s* pSrc, int srcStep, const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C3IR(const Zel32s value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C4R(const Zel32s* pSrc, int srcStep, const Zel32s value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_C4IR(const Zel32s value[4], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_AC4R(const Zel32s* pSrc, int srcStep, const Zel32s value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliXorC_32s_AC4IR(const Zel32s value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliNot_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+/* LShiftC: pDst = pSrc << value per channel. RShiftC: pDst = pSrc >> value,
+   logical for the unsigned types, arithmetic (sign-propagating) for 8s, 16s
+   and 32s. Counts are unsigned, one per channel for C3 and C4 (three for
+   AC4, whose alpha is left as it is), each channel shifted by its own count:
+   - a count of 0 leaves the element as it is; when every count is 0 the call
+     is a Copy (in place: nothing is written);
+   - left shifts and unsigned right shifts by W or more (W = 8, 16 or 32, the
+     element's width) give 0; when every count is so the call is a Set of 0;
+   - signed right shifts by W or more give the sign fill, -1 for negative
+     elements and 0 for the others, however large the count. This holds for
+     C3 as well when all three counts are 32 or more: those calls give the
+     sign fill, not 0, so a C3 call always equals the C1 call over the same
+     elements with the same count.
+   Checks as for the logic families above (null, steps, size). */
+ZELAPI ZelStatus zeliLShiftC_8u_C1R(const Zel8u* pSrc, int srcStep, Zel32u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C1IR(Zel32u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C3R(const Zel8u* pSrc, int srcStep, const Zel32u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C3IR(const Zel32u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C4R(const Zel8u* pSrc, int srcStep, const Zel32u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_C4IR(const Zel32u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_AC4R(const Zel8u* pSrc, int srcStep, const Zel32u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_8u_AC4IR(const Zel32u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C1R(const Zel16u* pSrc, int srcStep, Zel32u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C1IR(Zel32u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C3R(const Zel16u* pSrc, int srcStep, const Zel32u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C3IR(const Zel32u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C4R(const Zel16u* pSrc, int srcStep, const Zel32u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_C4IR(const Zel32u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel32u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_16u_AC4IR(const Zel32u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32u value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C1IR(Zel32u value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C3R(const Zel32s* pSrc, int srcStep, const Zel32u value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C3IR(const Zel32u value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C4R(const Zel32s* pSrc, int srcStep, const Zel32u value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_C4IR(const Zel32u value[4], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_AC4R(const Zel32s* pSrc, int srcStep, const Zel32u value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLShiftC_32s_AC4IR(const Zel32u value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C1R(const Zel8u* pSrc, int srcStep, Zel32u value, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C1IR(Zel32u value, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C3R(const Zel8u* pSrc, int srcStep, const Zel32u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C3IR(const Zel32u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C4R(const Zel8u* pSrc, int srcStep, const Zel32u value[4], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_C4IR(const Zel32u value[4], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_AC4R(const Zel8u* pSrc, int srcStep, const Zel32u value[3], Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8u_AC4IR(const Zel32u value[3], Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C1R(const Zel8s* pSrc, int srcStep, Zel32u value, Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C1IR(Zel32u value, Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C3R(const Zel8s* pSrc, int srcStep, const Zel32u value[3], Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C3IR(const Zel32u value[3], Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C4R(const Zel8s* pSrc, int srcStep, const Zel32u value[4], Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_C4IR(const Zel32u value[4], Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_AC4R(const Zel8s* pSrc, int srcStep, const Zel32u value[3], Zel8s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_8s_AC4IR(const Zel32u value[3], Zel8s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C1R(const Zel16u* pSrc, int srcStep, Zel32u value, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C1IR(Zel32u value, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C3R(const Zel16u* pSrc, int srcStep, const Zel32u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C3IR(const Zel32u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C4R(const Zel16u* pSrc, int srcStep, const Zel32u value[4], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_C4IR(const Zel32u value[4], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_AC4R(const Zel16u* pSrc, int srcStep, const Zel32u value[3], Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16u_AC4IR(const Zel32u value[3], Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C1R(const Zel16s* pSrc, int srcStep, Zel32u value, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C1IR(Zel32u value, Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C3R(const Zel16s* pSrc, int srcStep, const Zel32u value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C3IR(const Zel32u value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C4R(const Zel16s* pSrc, int srcStep, const Zel32u value[4], Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_C4IR(const Zel32u value[4], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_AC4R(const Zel16s* pSrc, int srcStep, const Zel32u value[3], Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_16s_AC4IR(const Zel32u value[3], Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C1R(const Zel32s* pSrc, int srcStep, Zel32u value, Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C1IR(Zel32u value, Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C3R(const Zel32s* pSrc, int srcStep, const Zel32u value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C3IR(const Zel32u value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C4R(const Zel32s* pSrc, int srcStep, const Zel32u value[4], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_C4IR(const Zel32u value[4], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_AC4R(const Zel32s* pSrc, int srcStep, const Zel32u value[3], Zel32s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliRShiftC_32s_AC4IR(const Zel32u value[3], Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
 /* ==== Image arithmetic: division ======================================== */
 
 /* Div: destination = source 2 / source 1 (the first source is the divisor);

@@ -161,28 +161,27 @@ int forkCost(Band band) {
     }
 }
 
-// The pass over the rows, after the checks and shortcuts. Contiguous rows
-// run as one long row; rows (or pieces of the long row, cut on multiples of
-// the patterns' length) go to the team that the fork rule picks. The
-// kernels never see an AC4 row's last alpha element: a page the caller may
-// not read can follow it.
-template <class Op, class T, Layout L, Form F>
-void computeRows(const T* p, int pStep, const T* q, int qStep, T* dst, int dstStep, ZeliSize roi, Band band,
-                 int scale) {
-    using B = BaseOf<T>;
-    constexpr bool isConst = kConstForm<F>;
-    constexpr int kSub = kIsComplex<T> ? 2 : 1;  // base elements per channel
-    constexpr int kPeriod = kChannels<L> * kSub;
+// The pass over the rows, after the checks and shortcuts, for any row
+// kernel on base elements B (Sub of them per channel). Contiguous rows run
+// as one long row; rows (or pieces of the long row, cut on multiples of the
+// patterns' length) go to the team that the fork rule picks for `cost`.
+// For the constant forms q holds one value per computed channel, repeated
+// here into the kernels' pattern. The kernels never see an AC4 row's last
+// alpha element: a page the caller may not read can follow it.
+template <class B, Layout L, bool IsConst, int Sub = 1>
+void passRows(const B* p, int pStep, const B* q, int qStep, B* dst, int dstStep, ZeliSize roi,
+              RowKernel<B> row, const ScaleArgs& args, int cost) {
+    constexpr int kPeriod = kChannels<L> * Sub;
     constexpr std::ptrdiff_t kGrain = std::ptrdiff_t{kPeriod} * kMaxLanes;
-    constexpr std::ptrdiff_t kAlphaTail = L == Layout::AC4 ? kSub : 0;
+    constexpr std::ptrdiff_t kAlphaTail = L == Layout::AC4 ? Sub : 0;
 
     const BitsOf<B>* keep = nullptr;
-    if constexpr (L == Layout::AC4) keep = AlphaPattern<BitsOf<B>, kPeriod, kSub>::kKeep.data();
+    if constexpr (L == Layout::AC4) keep = AlphaPattern<BitsOf<B>, kPeriod, Sub>::kKeep.data();
     // The constant's values per channel (0 under alpha), repeated.
-    B values[isConst ? kGrain : 1];
-    const B* qBase = reinterpret_cast<const B*>(q);
-    if constexpr (isConst) {
-        for (int c = 0; c < kPeriod; ++c) values[c] = c < kComputed<L> * kSub ? qBase[c] : B(0);
+    B values[IsConst ? kGrain : 1];
+    const B* qBase = q;
+    if constexpr (IsConst) {
+        for (int c = 0; c < kPeriod; ++c) values[c] = c < kComputed<L> * Sub ? qBase[c] : B(0);
         // kGrain is kPeriod times a power of two: six doublings of
         // constant sizes, which the compiler turns into plain moves.
 #pragma GCC unroll 8
@@ -191,22 +190,28 @@ void computeRows(const T* p, int pStep, const T* q, int qStep, T* dst, int dstSt
         qBase = values;
     }
 
-    const RowKernel<B> row = rowKernel<Op, T>(band);
-    const ScaleArgs args = scaleArgs<Op, T>(scale);
-    const std::int64_t rowBytes = std::int64_t{roi.width} * kChannels<L> * sizeof(T);
-    const Rows rows = isConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
+    const std::int64_t rowBytes = std::int64_t{roi.width} * kPeriod * sizeof(B);
+    const Rows rows = IsConst ? collapseRows(roi, rowBytes, {pStep, dstStep})
                               : collapseRows(roi, rowBytes, {pStep, qStep, dstStep});
     const std::ptrdiff_t n = rows.width * kPeriod;
-    const std::int64_t touched = rowBytes * roi.height * (isConst ? 2 : 3);
-    const int team = teamSize(touched, forkCost<Op, T>(band), pieceCount(rows.height, n, kGrain));
-    const B* pBase = reinterpret_cast<const B*>(p);
-    B* dBase = reinterpret_cast<B*>(dst);
+    const std::int64_t touched = rowBytes * roi.height * (IsConst ? 2 : 3);
+    const int team = teamSize(touched, cost, pieceCount(rows.height, n, kGrain));
     forEachBlock(rows.height, n, kGrain, team, [&](const Block& b) {
         const std::ptrdiff_t end = b.end == n ? n - kAlphaTail : b.end;
-        row(rowAt(pBase, pStep, b.y0) + b.begin, pStep, isConst ? qBase : rowAt(qBase, qStep, b.y0) + b.begin,
-            qStep, isConst, rowAt(dBase, dstStep, b.y0) + b.begin, dstStep, end - b.begin, b.y1 - b.y0, kPeriod,
+        row(rowAt(p, pStep, b.y0) + b.begin, pStep, IsConst ? qBase : rowAt(qBase, qStep, b.y0) + b.begin,
+            qStep, IsConst, rowAt(dst, dstStep, b.y0) + b.begin, dstStep, end - b.begin, b.y1 - b.y0, kPeriod,
             keep, args);
     });
+}
+
+// The arithmetic families' pass: their kernel, scale arguments and cost.
+template <class Op, class T, Layout L, Form F>
+void computeRows(const T* p, int pStep, const T* q, int qStep, T* dst, int dstStep, ZeliSize roi, Band band,
+                 int scale) {
+    using B = BaseOf<T>;
+    passRows<B, L, kConstForm<F>, kIsComplex<T> ? 2 : 1>(
+        reinterpret_cast<const B*>(p), pStep, reinterpret_cast<const B*>(q), qStep, reinterpret_cast<B*>(dst),
+        dstStep, roi, rowKernel<Op, T>(band), scaleArgs<Op, T>(scale), forkCost<Op, T>(band));
 }
 
 // Runs one member. p is the image the operation starts from (the minuend of

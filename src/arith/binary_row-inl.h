@@ -55,11 +55,48 @@ using WideLane = std::conditional_t<
                        std::conditional_t<std::is_same_v<T, std::uint16_t> && kIsProduct<Op>,
                                           std::uint32_t, std::int32_t>>>;
 
+// Each lane of v shifted by its own count, taken from the same lane of
+// `counts`: a binary shifter, one conditional shift by 1, 2, 4, ... per bit
+// of the count below the width W. Counts are at most W; the bit W, set only
+// by a count of exactly W, clears the lane (left and logical right shifts
+// past W - 1 give 0). Signed right shifts pass counts of at most W - 1,
+// which give the sign fill.
+template <int K, bool Left, class D, class V>
+HWY_INLINE V ShiftBit(D d, V v, V counts) {
+    using T = hn::TFromD<D>;
+    if constexpr (K < int(sizeof(T) * 8)) {
+        const auto m = hn::TestBit(counts, hn::Set(d, T(K)));
+        if constexpr (Left) {
+            v = hn::IfThenElse(m, hn::ShiftLeft<K>(v), v);
+        } else {
+            v = hn::IfThenElse(m, hn::ShiftRight<K>(v), v);
+        }
+        return ShiftBit<K * 2, Left>(d, v, counts);
+    } else {
+        return hn::IfThenZeroElse(hn::TestBit(counts, hn::Set(d, T(K))), v);
+    }
+}
+
 // Saturating sum or difference, or the sum halved with ties to even, in the
-// element's own lanes.
+// element's own lanes; or a bitwise operation or shift.
 template <class Op, arith::Band B, class D, class V>
-HWY_INLINE V NativeStep(D d, V p, V q) {
-    if constexpr (B == arith::Band::One) {
+HWY_INLINE V NativeStep(D d, V p, V q, const arith::ScaleArgs& a) {
+    (void)a;
+    if constexpr (std::is_same_v<Op, arith::AndOp>) {
+        return hn::And(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::OrOp>) {
+        return hn::Or(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::XorOp>) {
+        return hn::Xor(p, q);
+    } else if constexpr (std::is_same_v<Op, arith::ShiftLeftOp>) {
+        return hn::ShiftLeftSame(p, a.shift);
+    } else if constexpr (std::is_same_v<Op, arith::ShiftRightOp>) {
+        return hn::ShiftRightSame(p, a.shift);
+    } else if constexpr (std::is_same_v<Op, arith::ShiftLeftEachOp>) {
+        return ShiftBit<1, true>(d, p, q);
+    } else if constexpr (std::is_same_v<Op, arith::ShiftRightEachOp>) {
+        return ShiftBit<1, false>(d, p, q);
+    } else if constexpr (B == arith::Band::One) {
         // The rounded-up average is one too high exactly when the sum is
         // odd and that average is odd.
         const V up = hn::AverageRound(p, q);
@@ -180,7 +217,7 @@ HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::pt
     // One vector of results from the operand vectors vp and vq.
     auto compute = [&](hn::VFromD<decltype(dn)> vp, hn::VFromD<decltype(dn)> vq) HWY_ATTR {
         if constexpr (kNativeLanes<Op, T, B>) {
-            return NativeStep<Op, B>(dn, vp, vq);
+            return NativeStep<Op, B>(dn, vp, vq, args);
         } else if constexpr (B == arith::Band::Zero) {
             (void)vp;
             (void)vq;
@@ -215,6 +252,27 @@ HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::pt
             const auto r1 = compute(hn::LoadU(dn, p + x + lanes), hn::LoadU(dn, q + x + lanes));
             hn::StoreU(r0, dn, dst + x);
             hn::StoreU(r1, dn, dst + x + lanes);
+        }
+    } else if (keep == nullptr && lanes % period == 0) {
+        // Every vector starts on a pixel: one pattern vector serves them all.
+        const auto vq = hn::LoadU(dn, q);
+        for (; n - x >= 2 * lanes; x += 2 * lanes) {
+            const auto r0 = compute(hn::LoadU(dn, p + x), vq);
+            const auto r1 = compute(hn::LoadU(dn, p + x + lanes), vq);
+            hn::StoreU(r0, dn, dst + x);
+            hn::StoreU(r1, dn, dst + x + lanes);
+        }
+    } else if (keep == nullptr && period == 3) {
+        // Three vectors hold whole pixels; the loop below starts again at
+        // the pattern's first vector.
+        const auto q0 = hn::LoadU(dn, q), q1 = hn::LoadU(dn, q + lanes), q2 = hn::LoadU(dn, q + 2 * lanes);
+        for (; n - x >= 3 * lanes; x += 3 * lanes) {
+            const auto r0 = compute(hn::LoadU(dn, p + x), q0);
+            const auto r1 = compute(hn::LoadU(dn, p + x + lanes), q1);
+            const auto r2 = compute(hn::LoadU(dn, p + x + 2 * lanes), q2);
+            hn::StoreU(r0, dn, dst + x);
+            hn::StoreU(r1, dn, dst + x + lanes);
+            hn::StoreU(r2, dn, dst + x + 2 * lanes);
         }
     }
     for (; n - x >= lanes; x += lanes) {

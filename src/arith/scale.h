@@ -29,6 +29,21 @@ struct SubOp {};
 struct MulOp {};
 struct MulScaleOp {};    // p * q as a fraction of the type's maximum
 struct ComplexMulOp {};  // 16sc and 32fc products, computed on interleaved parts
+// Bitwise operations and shifts (logic.cpp, shift.cpp): exact in the
+// element's own lanes, and the same on every element type of one size.
+struct AndOp {};
+struct OrOp {};
+struct XorOp {};
+struct ShiftLeftOp {};       // by ScaleArgs::shift, one count for every element
+struct ShiftRightOp {};      // logical on unsigned lanes, arithmetic on signed ones
+struct ShiftLeftEachOp {};   // by the count in q's lane (see ShiftEach)
+struct ShiftRightEachOp {};
+
+template <class Op>
+inline constexpr bool kBitwise =
+    std::is_same_v<Op, AndOp> || std::is_same_v<Op, OrOp> || std::is_same_v<Op, XorOp> ||
+    std::is_same_v<Op, ShiftLeftOp> || std::is_same_v<Op, ShiftRightOp> ||
+    std::is_same_v<Op, ShiftLeftEachOp> || std::is_same_v<Op, ShiftRightEachOp>;
 
 enum class Band { Plain, One, Pos, Neg, Bound, Zero };
 
@@ -107,13 +122,16 @@ constexpr Band chooseBand(int s) {
 }
 
 // Operations whose exact result needs no wider lane: saturating sums and
-// differences (s = 0) of the 8-bit and 16-bit types, and the halved
-// unsigned sums (s = 1). They run at the memory's pace.
+// differences (s = 0) of the 8-bit and 16-bit types, the halved unsigned
+// sums (s = 1), and the bitwise operations and shifts of every integer
+// type. They run at the memory's pace.
 template <class Op, class B, Band Bd>
 inline constexpr bool kNativeLanes =
-    std::is_integral_v<B> && sizeof(B) <= 2 &&
-    ((Bd == Band::Plain && (std::is_same_v<Op, AddOp> || std::is_same_v<Op, SubOp>)) ||
-     (Bd == Band::One && std::is_same_v<Op, AddOp> && std::is_unsigned_v<B>));
+    std::is_integral_v<B> &&
+    ((Bd == Band::Plain && kBitwise<Op>) ||
+     (sizeof(B) <= 2 &&
+      ((Bd == Band::Plain && (std::is_same_v<Op, AddOp> || std::is_same_v<Op, SubOp>)) ||
+       (Bd == Band::One && std::is_same_v<Op, AddOp> && std::is_unsigned_v<B>))));
 
 // ---- the scalar rule ----
 

@@ -38,6 +38,8 @@ STEP_CHECKS = {
 }
 for fam in ('Add', 'AddC', 'Sub', 'SubC', 'Mul', 'MulC'):
     STEP_CHECKS[fam] = lambda t, lay: t in ('16sc', '32fc')
+for fam in ('And', 'AndC', 'Or', 'OrC', 'Xor', 'XorC', 'Not', 'LShiftC', 'RShiftC'):
+    STEP_CHECKS[fam] = lambda t, lay: True
 FIXED_FILTERS = ('SobelHoriz', 'SobelVert', 'SobelHorizMask', 'SobelVertMask', 'SobelHorizSecond',
                  'SobelVertSecond', 'SobelCross', 'PrewittHoriz', 'PrewittVert', 'ScharrHoriz', 'ScharrVert',
                  'RobertsDown', 'RobertsUp', 'Laplace', 'Gauss', 'Hipass', 'Lowpass', 'Sharpen')
@@ -156,6 +158,13 @@ def image_entry(name, params):
             continue
         if pname in ('roi', 'roiSize') and ptype == 'ZeliSize':
             args.append('c.roi')
+        elif pname == 'value' and ptype.replace('const ', '') == 'Zel32u':
+            # shift counts: unsigned, whatever the element type
+            if arr is not None:
+                args.append('c.values<Zel32u>()')
+                nulls.append('{"value[]", -2, -1}')
+            else:
+                args.append('c.scalar<Zel32u>()')
         elif pname == 'value' and arr is not None:
             args.append('c.values<%s>()' % ctype)
             nulls.append('{"value[]", -2, -1}')
