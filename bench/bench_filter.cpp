@@ -5,6 +5,8 @@
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 
+#include <functional>
+
 #include "bench_util.h"
 
 namespace {
@@ -29,8 +31,25 @@ struct Frame {
     int outStep() const { return static_cast<int>(dst.step); }
 };
 
+template <class OpenCv>
+void registerOpenCv(const std::string& name, const std::string& impl, int threads, int srcType, int dstType,
+                    OpenCv opencv) {
+    registerSized(name, impl, [=](benchmark::State& state, ZeliSize s) {
+        Frame f(s, srcType, dstType);
+        cv::setNumThreads(threads);
+        for (auto _ : state) {
+            opencv(f);
+            benchmark::ClobberMemory();
+        }
+        cv::setNumThreads(1);
+    }, nullptr, kSizes);
+}
+
+// `sameKernel`, when given, is OpenCV's evaluation of exactly our kernel
+// where its own filter of the kind uses another one.
 template <class Zeli, class OpenCv>
-void registerPair(const std::string& group, int srcType, int dstType, Zeli zeli, OpenCv opencv) {
+void registerPair(const std::string& group, int srcType, int dstType, Zeli zeli, OpenCv opencv,
+                  std::function<void(Frame&)> sameKernel = nullptr) {
     for (int threads : {1, 2}) {
         const std::string name = group + (threads > 1 ? "_mt" : "");
         registerSized(name, "zeli", [=](benchmark::State& state, ZeliSize s) {
@@ -42,16 +61,16 @@ void registerPair(const std::string& group, int srcType, int dstType, Zeli zeli,
             }
             zelSetNumThreads(1);
         }, nullptr, kSizes);
-        registerSized(name, "opencv", [=](benchmark::State& state, ZeliSize s) {
-            Frame f(s, srcType, dstType);
-            cv::setNumThreads(threads);
-            for (auto _ : state) {
-                opencv(f);
-                benchmark::ClobberMemory();
-            }
-            cv::setNumThreads(1);
-        }, nullptr, kSizes);
+        registerOpenCv(name, "opencv", threads, srcType, dstType, opencv);
+        if (sameKernel) registerOpenCv(name, "opencv_filter2D", threads, srcType, dstType, sameKernel);
     }
+}
+
+// The 5x5 Gauss kernel of weight 571, for cv::filter2D.
+cv::Mat gauss571() {
+    const float rows[5][5] = {{2, 7, 12, 7, 2}, {7, 31, 52, 31, 7}, {12, 52, 127, 52, 12},
+                              {7, 31, 52, 31, 7}, {2, 7, 12, 7, 2}};
+    return cv::Mat(5, 5, CV_32F, const_cast<float*>(&rows[0][0])).clone() / 571.0f;
 }
 
 void registerAll() {
@@ -64,16 +83,20 @@ void registerAll() {
     registerPair("Gauss_8u_C1_3x3", CV_8UC1, CV_8UC1, [](Frame& f, ZeliSize s) {
         zeliFilterGauss_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, zelMaskCode3x3);
     }, [](Frame& f) { cv::GaussianBlur(f.src, f.dst, cv::Size(3, 3), 0); });
-    // OpenCV's 5x5 Gaussian is separable (1 4 6 4 1); ours is the 571 kernel.
+    // OpenCV's 5x5 Gaussian is separable (1 4 6 4 1); ours is the 571
+    // kernel, which is not: filter2D evaluates that one.
+    static const cv::Mat k571 = gauss571();
     registerPair("Gauss_8u_C1_5x5", CV_8UC1, CV_8UC1, [](Frame& f, ZeliSize s) {
         zeliFilterGauss_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, zelMaskCode5x5);
-    }, [](Frame& f) { cv::GaussianBlur(f.src, f.dst, cv::Size(5, 5), 0); });
+    }, [](Frame& f) { cv::GaussianBlur(f.src, f.dst, cv::Size(5, 5), 0); },
+                 [](Frame& f) { cv::filter2D(f.src, f.dst, -1, k571); });
     registerPair("Gauss_32f_C1_3x3", CV_32FC1, CV_32FC1, [](Frame& f, ZeliSize s) {
         zeliFilterGauss_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s, zelMaskCode3x3);
     }, [](Frame& f) { cv::GaussianBlur(f.src, f.dst, cv::Size(3, 3), 0); });
     registerPair("Gauss_32f_C1_5x5", CV_32FC1, CV_32FC1, [](Frame& f, ZeliSize s) {
         zeliFilterGauss_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s, zelMaskCode5x5);
-    }, [](Frame& f) { cv::GaussianBlur(f.src, f.dst, cv::Size(5, 5), 0); });
+    }, [](Frame& f) { cv::GaussianBlur(f.src, f.dst, cv::Size(5, 5), 0); },
+                 [](Frame& f) { cv::filter2D(f.src, f.dst, -1, k571); });
     registerPair("Lowpass_8u_C1_3x3", CV_8UC1, CV_8UC1, [](Frame& f, ZeliSize s) {
         zeliFilterLowpass_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, zelMaskCode3x3);
     }, [](Frame& f) { cv::blur(f.src, f.dst, cv::Size(3, 3)); });

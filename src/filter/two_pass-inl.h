@@ -350,10 +350,18 @@ void Symmetric5Block(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBloc
             P* inner = profile(slot, 1);
             P* middle = profile(slot, 2);
             auto at = [&](auto d, std::ptrdiff_t x) {
-                auto load = [&](std::size_t t) { return LoadAs(d, in + x + static_cast<std::ptrdiff_t>(t) * channels); };
-                hn::StoreU(SumTaps<typename K::OuterTaps>(d, load), d, outer + (x - x0));
-                hn::StoreU(SumTaps<typename K::InnerTaps>(d, load), d, inner + (x - x0));
-                hn::StoreU(SumTaps<typename K::MiddleTaps>(d, load), d, middle + (x - x0));
+                // The five pixels are loaded once for the three profiles
+                // (the stores in between would otherwise force reloads).
+                const hn::VFromD<decltype(d)> pixels[5] = {
+                    LoadAs(d, in + x), LoadAs(d, in + x + channels), LoadAs(d, in + x + 2 * std::ptrdiff_t{channels}),
+                    LoadAs(d, in + x + 3 * std::ptrdiff_t{channels}), LoadAs(d, in + x + 4 * std::ptrdiff_t{channels})};
+                auto load = [&](std::size_t t) { return pixels[t]; };
+                const auto o = SumTaps<typename K::OuterTaps>(d, load);
+                const auto i = SumTaps<typename K::InnerTaps>(d, load);
+                const auto m = SumTaps<typename K::MiddleTaps>(d, load);
+                hn::StoreU(o, d, outer + (x - x0));
+                hn::StoreU(i, d, inner + (x - x0));
+                hn::StoreU(m, d, middle + (x - x0));
             };
             std::ptrdiff_t x = x0;
             for (; vectorEnd - x >= NP; x += NP) at(dp, x);
