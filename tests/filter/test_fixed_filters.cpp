@@ -312,7 +312,8 @@ TEST(FixedFilters, RobertsRoundsTheStepUpwardsOnly) {
 }
 
 // The source may end at the last byte the kernel reaches (the last border
-// pixel's colour channels for AC4) and be followed by an inaccessible page.
+// pixel's colour channels for AC4) and be followed by an inaccessible page,
+// or begin at the first byte it reaches right after one.
 TEST(FixedFilters, ReadNothingBeyondTheBorder) {
     const int sizeOf[] = {1, 1, 2, 2, 4};  // by Elem
     for (const FilterMember& m : members())
@@ -334,6 +335,18 @@ TEST(FixedFilters, ReadNothingBeyondTheBorder) {
                 return m.call(at, step, out.data(), roi.width * m.channels * 4, roi, mask);
             });
             EXPECT_EQ(st, zelStatusOk);
+
+            // Roberts Up reads nothing left of the ROI, Down one pixel.
+            const int left = m.roberts == 1 ? 0 : radius;
+            Pages pages(2 + roundUpToPages(bytes) / pageBytes());
+            ASSERT_TRUE(pages.ok());
+            pages.protect(0, 1, PROT_NONE);
+            const std::uint8_t* first = pages.page(1);
+            const void* after = first + std::size_t(step) * radius + std::size_t(left) * m.channels * elem;
+            const int st2 = guardedCall(m.name + " after a fence", [&] {
+                return m.call(after, step, out.data(), roi.width * m.channels * 4, roi, mask);
+            });
+            EXPECT_EQ(st2, zelStatusOk);
         }
 }
 
