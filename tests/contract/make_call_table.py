@@ -38,6 +38,8 @@ STEP_CHECKS = {
 }
 for fam in ('Add', 'AddC', 'Sub', 'SubC', 'Mul', 'MulC'):
     STEP_CHECKS[fam] = lambda t, lay: t in ('16sc', '32fc')
+for fam in ('Abs', 'Sqr', 'Sqrt', 'Ln', 'Exp', 'Complement'):
+    STEP_CHECKS[fam] = lambda t, lay: True
 
 # The library frame: functions without image operands.
 FRAME = [
