@@ -331,7 +331,8 @@ TEST(Unary, StatusIsGatheredAsTheFamilyStates) {
         {"Ln: -0 and -inf", {-0.0f, 1, -inf, 1}, 2, 7, ln},
         {"Ln: zero in a later chunk than a negative", with({{10, -1.0f}, {300, 0.0f}}), 600, 8, ln},
         {"Ln: zero in an earlier chunk", with({{10, 0.0f}, {300, -1.0f}}), 600, 7, ln},
-        {"Ln: zero and negative in one chunk", with({{10, 0.0f}, {20, -1.0f}}), 600, 8, ln},
+        {"Ln: zero and negative in one chunk", with({{10, 0.0f}, {200, -1.0f}}), 600, 8, ln},
+        {"Ln: zero ending a chunk, negative starting the next", with({{255, 0.0f}, {256, -1.0f}}), 600, 7, ln},
         {"Exp: never warns", {-inf, inf, 1e30f, -1e30f}, 2, 0, exp}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
