@@ -740,8 +740,8 @@ ZELAPI ZelStatus zeliSqrt_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize ro
 
 /* Ln: pDst = ln(pSrc). 32f: zero gives -inf, a negative value (or -inf)
    the default NaN, +inf and NaN themselves; other results are within 1 ulp
-   (the double-precision value rounded once to float), the same bits on
-   every processor. The row is worked in chunks of 256 elements and the
+   of the correctly rounded value (checked on every float), the same bits on
+   every processor and in every floating-point environment. The row is worked in chunks of 256 elements and the
    first chunk that met a zero or a negative value sets the row's warning:
    zelStatusWarnLogOfZero (7) when it met only zeros, otherwise
    zelStatusWarnLogOfNegative (8). Integer members give ln(x) * 2^-scaleFactor
@@ -767,9 +767,10 @@ ZELAPI ZelStatus zeliLn_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSi
 ZELAPI ZelStatus zeliLn_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
 ZELAPI ZelStatus zeliLn_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
 
-/* Exp: pDst = e^pSrc. 32f results are within 1 ulp (the double-precision
-   value rounded once to float, also into the subnormal range), the same bits
-   on every processor; -inf gives 0, overflow +inf, NaN stays NaN. Integer
+/* Exp: pDst = e^pSrc. 32f results are within 1 ulp of the correctly
+   rounded value (checked on every float, subnormal results included), the
+   same bits on every processor and in every floating-point environment;
+   -inf gives 0, overflow +inf, NaN stays NaN. Integer
    members give e^x * 2^-scaleFactor rounded half up (not half to even: with
    scale factor 1, e^0 gives 1) and saturated; 8u with a scale factor below
    -7 gives 255 everywhere. Checks: null, size, steps; rows advance by the

@@ -9,9 +9,9 @@
 // family) and runs one code path for the whole row: the last partial
 // vector is loaded and stored under a mask.
 //
-// Ln and Exp of 32f compute in double precision with plain additions,
-// multiplications and one division (no fused multiply-add, no table), and
-// round once to float at the end: the bits are the same on every target.
+// Ln and Exp of 32f compute in float with plain additions and
+// multiplications (no fused multiply-add, no table), each rounding once
+// in a fixed order: the bits are the same on every target.
 #if defined(ZEL_ARITH_UNARY_ROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef ZEL_ARITH_UNARY_ROW_INL_H_
 #undef ZEL_ARITH_UNARY_ROW_INL_H_
@@ -145,101 +145,104 @@ int MapRow(const T* HWY_RESTRICT src, T* dst, std::ptrdiff_t n, bool ac4) {
     return hn::AllFalse(d, special) ? 0 : 1;
 }
 
-// ---- 32f logarithm and exponent in double precision ----
+// ---- 32f logarithm and exponent ----
+//
+// Float arithmetic without fused multiply-adds: every operation rounds
+// once, in the same order on every target.
 
-// e^x for float x, promoted: x = k ln2 + r with |r| <= ln2 / 2, e^r by its
-// Taylor polynomial of degree 9 (relative error below 1e-11), 2^k built in
-// the exponent field. Inputs are clamped to [-120, 100], beyond which the
-// float result is 0 or infinity either way; the conversion to float rounds
-// once, into subnormal values too.
-template <class DD, class DF>
-HWY_INLINE hn::VFromD<DF> ExpOf(DD dd, DF df, hn::VFromD<DF> vf) {
-    const hn::RebindToUnsigned<DD> du;
-    constexpr double kShifter = 6755399441055744.0;  // 1.5 * 2^52: adding it rounds to an integer
-    auto x = hn::PromoteTo(dd, vf);
-    x = hn::Min(hn::Max(x, hn::Set(dd, -120.0)), hn::Set(dd, 100.0));
-    const auto m = hn::Add(hn::Mul(x, hn::Set(dd, 1.4426950408889634)), hn::Set(dd, kShifter));
-    const auto k = hn::Sub(m, hn::Set(dd, kShifter));
-    // ln2 in two parts; k * kLn2Hi is exact for |k| < 2^20.
-    const auto r = hn::Sub(hn::Sub(x, hn::Mul(k, hn::Set(dd, 6.93147180369123816490e-01))),
-                           hn::Mul(k, hn::Set(dd, 1.90821492927058770002e-10)));
-    auto p = hn::Set(dd, 1.0 / 362880.0);
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0 / 40320.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0 / 5040.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0 / 720.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0 / 120.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0 / 24.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0 / 6.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 0.5));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0));
-    p = hn::Add(hn::Mul(p, r), hn::Set(dd, 1.0));
-    // The low bits of m hold k (offset by the shifter's own bits).
-    const auto biased = hn::Add(hn::BitCast(du, m), hn::Set(du, std::uint64_t{1023} - 0x4338000000000000ull));
-    const auto scale = hn::BitCast(dd, hn::ShiftLeft<52>(biased));
-    const auto y = hn::DemoteTo(df, hn::Mul(p, scale));
+// e^x: x = k ln2 + r with |r| <= ln2 / 2 (ln2 in two parts, the first
+// exact in k * part), e^r = 1 + r + r^2 P(r) with a minimax P of degree 5,
+// then 2^k applied in two exact-or-final steps so that subnormal results
+// round once and 2^128 overflows to infinity. Inputs are clamped to
+// [-104, 89], beyond which the result is 0 or infinity either way.
+template <class DF>
+HWY_INLINE hn::VFromD<DF> ExpOf(DF df, hn::VFromD<DF> vf) {
+    const hn::RebindToSigned<DF> di;
+    constexpr float kShifter = 12582912.0f;  // 1.5 * 2^23: adding it rounds to an integer
+    const auto x = hn::Min(hn::Max(vf, hn::Set(df, -104.0f)), hn::Set(df, 89.0f));
+    const auto k = hn::Sub(hn::Add(hn::Mul(x, hn::Set(df, 1.44269504088896341f)), hn::Set(df, kShifter)),
+                           hn::Set(df, kShifter));
+    const auto r = hn::Sub(hn::Sub(x, hn::Mul(k, hn::Set(df, 0.693359375f))), hn::Mul(k, hn::Set(df, -2.12194440e-4f)));
+    auto p = hn::Set(df, 1.9875691500e-4f);
+    p = hn::Add(hn::Mul(p, r), hn::Set(df, 1.3981999507e-3f));
+    p = hn::Add(hn::Mul(p, r), hn::Set(df, 8.3334519073e-3f));
+    p = hn::Add(hn::Mul(p, r), hn::Set(df, 4.1665795894e-2f));
+    p = hn::Add(hn::Mul(p, r), hn::Set(df, 1.6666665459e-1f));
+    p = hn::Add(hn::Mul(p, r), hn::Set(df, 5.0000001201e-1f));
+    const auto e = hn::Add(hn::Add(hn::Mul(p, hn::Mul(r, r)), r), hn::Set(df, 1.0f));
+    // 2^k = 2^k1 2^k2, k1 = k >> 1: e 2^k1 is exact, the second product
+    // rounds once (into the subnormal range, or to infinity).
+    const auto ki = hn::ConvertTo(di, k);
+    const auto k1 = hn::ShiftRight<1>(ki);
+    const auto k2 = hn::Sub(ki, k1);
+    const auto bias = hn::Set(di, 127);
+    const auto s1 = hn::BitCast(df, hn::ShiftLeft<23>(hn::Add(k1, bias)));
+    const auto s2 = hn::BitCast(df, hn::ShiftLeft<23>(hn::Add(k2, bias)));
+    const auto y = hn::Mul(hn::Mul(e, s1), s2);
     return hn::IfThenElse(hn::IsNaN(vf), hn::Add(vf, vf), y);
 }
 
-// ln x for float x > 0, promoted: x = 2^e m with m in [sqrt(1/2), sqrt(2)),
-// ln m = 2 atanh(f), f = (m - 1) / (m + 1), |f| < 0.172, by its series to
-// f^13 (relative error below 2e-11). Zero gives -inf, negative values
-// (and -inf) the default NaN, +inf and NaN themselves; `zero` and
-// `negative` collect the lanes that met those cases.
-template <class DD, class DF>
-HWY_INLINE hn::VFromD<DF> LnOf(DD dd, DF df, hn::VFromD<DF> vf, hn::Mask<DF>& zero, hn::Mask<DF>& negative) {
-    const hn::RebindToUnsigned<DD> du;
-    const hn::RebindToUnsigned<DF> duf;
-    const auto x = hn::PromoteTo(dd, vf);
-    const auto bits = hn::BitCast(du, x);
-    // The biased exponent as a double: its bits under the exponent of 2^52.
-    const auto field = hn::BitCast(dd, hn::Or(hn::ShiftRight<52>(bits), hn::Set(du, 0x4330000000000000ull)));
-    auto e = hn::Sub(field, hn::Set(dd, 4503599627370496.0 + 1023.0));
-    auto m = hn::BitCast(dd, hn::Or(hn::And(bits, hn::Set(du, 0x000FFFFFFFFFFFFFull)),
-                                    hn::Set(du, 0x3FF0000000000000ull)));
-    const auto high = hn::Gt(m, hn::Set(dd, 1.4142135623730951));
-    m = hn::IfThenElse(high, hn::Mul(m, hn::Set(dd, 0.5)), m);
-    e = hn::IfThenElse(high, hn::Add(e, hn::Set(dd, 1.0)), e);
-    const auto f = hn::Div(hn::Sub(m, hn::Set(dd, 1.0)), hn::Add(m, hn::Set(dd, 1.0)));
-    const auto f2 = hn::Mul(f, f);
-    auto s = hn::Set(dd, 1.0 / 13.0);
-    s = hn::Add(hn::Mul(s, f2), hn::Set(dd, 1.0 / 11.0));
-    s = hn::Add(hn::Mul(s, f2), hn::Set(dd, 1.0 / 9.0));
-    s = hn::Add(hn::Mul(s, f2), hn::Set(dd, 1.0 / 7.0));
-    s = hn::Add(hn::Mul(s, f2), hn::Set(dd, 1.0 / 5.0));
-    s = hn::Add(hn::Mul(s, f2), hn::Set(dd, 1.0 / 3.0));
-    const auto twoF = hn::Add(f, f);
-    const auto lnM = hn::Add(twoF, hn::Mul(hn::Mul(twoF, f2), s));
-    const auto y = hn::Add(hn::Mul(e, hn::Set(dd, 0.6931471805599453)), lnM);
-    auto r = hn::DemoteTo(df, y);
+// ln x for x > 0: x = 2^e m with m in [sqrt(1/2), sqrt(2)) (subnormal x
+// scaled by 2^23 first), t = m - 1, ln m = t - t^2 / 2 + t^3 P(t) with a
+// minimax P of degree 8, e ln2 added in two parts. Zero gives -inf,
+// negative values (and -inf) the default NaN, +inf and NaN themselves;
+// `zero` and `negative` collect the lanes that met those cases.
+template <class DF>
+HWY_INLINE hn::VFromD<DF> LnOf(DF df, hn::VFromD<DF> vf, hn::Mask<DF>& zero, hn::Mask<DF>& negative) {
+    const hn::RebindToSigned<DF> di;
+    const auto tiny = hn::Lt(vf, hn::Set(df, 1.17549435e-38f));
+    const auto xs = hn::IfThenElse(tiny, hn::Mul(vf, hn::Set(df, 8388608.0f)), vf);
+    const auto bits = hn::BitCast(di, xs);
+    auto e = hn::Sub(hn::ShiftRight<23>(bits), hn::Set(di, 126));
+    e = hn::IfThenElse(hn::RebindMask(di, tiny), hn::Sub(e, hn::Set(di, 23)), e);
+    // m in [0.5, 1)
+    auto m = hn::BitCast(df, hn::Or(hn::And(bits, hn::Set(di, 0x007FFFFF)), hn::Set(di, 0x3F000000)));
+    const auto low = hn::Lt(m, hn::Set(df, 0.707106781186547524f));
+    e = hn::IfThenElse(hn::RebindMask(di, low), hn::Sub(e, hn::Set(di, 1)), e);
+    const auto t = hn::Sub(hn::IfThenElse(low, hn::Add(m, m), m), hn::Set(df, 1.0f));
+    const auto fe = hn::ConvertTo(df, e);
+    const auto z = hn::Mul(t, t);
+    auto p = hn::Set(df, 7.0376836292e-2f);
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, -1.1514610310e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, 1.1676998740e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, -1.2420140846e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, 1.4249322787e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, -1.6668057665e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, 2.0000714765e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, -2.4999993993e-1f));
+    p = hn::Add(hn::Mul(p, t), hn::Set(df, 3.3333331174e-1f));
+    auto y = hn::Mul(hn::Mul(p, t), z);
+    y = hn::Add(y, hn::Mul(fe, hn::Set(df, -2.12194440e-4f)));
+    y = hn::Sub(y, hn::Mul(z, hn::Set(df, 0.5f)));
+    auto r = hn::Add(hn::Add(t, y), hn::Mul(fe, hn::Set(df, 0.693359375f)));
 
     const auto isZero = hn::Eq(vf, hn::Zero(df));
     const auto isNegative = hn::Lt(vf, hn::Zero(df));
     zero = hn::Or(zero, isZero);
     negative = hn::Or(negative, isNegative);
-    const auto inf = hn::BitCast(df, hn::Set(duf, 0x7F800000u));
+    const auto inf = hn::BitCast(df, hn::Set(di, 0x7F800000));
     r = hn::IfThenElse(isZero, hn::Neg(inf), r);
-    r = hn::IfThenElse(isNegative, hn::BitCast(df, hn::Set(duf, 0xFFC00000u)), r);
+    r = hn::IfThenElse(isNegative, hn::BitCast(df, hn::Set(di, std::int32_t(0xFFC00000u))), r);
     // +inf and NaN give themselves (a NaN quietened).
     return hn::IfThenElse(hn::Or(hn::IsNaN(vf), hn::Eq(vf, inf)), hn::Add(vf, vf), r);
 }
 
 // Exp of a 32f row; always 0.
 inline int ExpRow32f(const float* HWY_RESTRICT src, float* dst, std::ptrdiff_t n) {
-    const hn::ScalableTag<double> dd;
-    const hn::Rebind<float, decltype(dd)> df;
-    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(dd));
+    const hn::ScalableTag<float> df;
+    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(df));
     std::ptrdiff_t x = 0;
     for (; n - x >= 2 * lanes; x += 2 * lanes) {
-        const auto r0 = ExpOf(dd, df, hn::LoadU(df, src + x));
-        const auto r1 = ExpOf(dd, df, hn::LoadU(df, src + x + lanes));
+        const auto r0 = ExpOf(df, hn::LoadU(df, src + x));
+        const auto r1 = ExpOf(df, hn::LoadU(df, src + x + lanes));
         hn::StoreU(r0, df, dst + x);
         hn::StoreU(r1, df, dst + x + lanes);
     }
-    for (; n - x >= lanes; x += lanes) hn::StoreU(ExpOf(dd, df, hn::LoadU(df, src + x)), df, dst + x);
+    for (; n - x >= lanes; x += lanes) hn::StoreU(ExpOf(df, hn::LoadU(df, src + x)), df, dst + x);
     if (x < n) {
         const std::size_t rest = static_cast<std::size_t>(n - x);
         const hn::RebindToUnsigned<decltype(df)> du;
-        const auto r = ExpOf(dd, df, LoadFirst(df, src + x, rest));
+        const auto r = ExpOf(df, LoadFirst(df, src + x, rest));
         StoreUnderMask(hn::BitCast(du, r), hn::FirstN(du, rest), du, reinterpret_cast<std::uint32_t*>(dst + x));
     }
     return 0;
@@ -253,9 +256,8 @@ constexpr std::ptrdiff_t kLnChunk = 256;
 // bit 1 for a zero; the first non-zero code gives 7 when it is 2 (zeros
 // only) and 8 otherwise.
 inline int LnRow32f(const float* HWY_RESTRICT src, float* dst, std::ptrdiff_t n) {
-    const hn::ScalableTag<double> dd;
-    const hn::Rebind<float, decltype(dd)> df;
-    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(dd));
+    const hn::ScalableTag<float> df;
+    const std::ptrdiff_t lanes = static_cast<std::ptrdiff_t>(hn::Lanes(df));
     int status = 0;
     for (std::ptrdiff_t c = 0; c < n; c += std::min(kLnChunk, n - c)) {
         const std::ptrdiff_t end = c + std::min(kLnChunk, n - c);
@@ -263,19 +265,19 @@ inline int LnRow32f(const float* HWY_RESTRICT src, float* dst, std::ptrdiff_t n)
         auto negative = zero;
         std::ptrdiff_t x = c;
         for (; end - x >= 2 * lanes; x += 2 * lanes) {
-            const auto r0 = LnOf(dd, df, hn::LoadU(df, src + x), zero, negative);
-            const auto r1 = LnOf(dd, df, hn::LoadU(df, src + x + lanes), zero, negative);
+            const auto r0 = LnOf(df, hn::LoadU(df, src + x), zero, negative);
+            const auto r1 = LnOf(df, hn::LoadU(df, src + x + lanes), zero, negative);
             hn::StoreU(r0, df, dst + x);
             hn::StoreU(r1, df, dst + x + lanes);
         }
-        for (; end - x >= lanes; x += lanes) hn::StoreU(LnOf(dd, df, hn::LoadU(df, src + x), zero, negative), df, dst + x);
+        for (; end - x >= lanes; x += lanes) hn::StoreU(LnOf(df, hn::LoadU(df, src + x), zero, negative), df, dst + x);
         if (x < end) {
             const std::size_t rest = static_cast<std::size_t>(end - x);
             const hn::RebindToUnsigned<decltype(df)> du;
             auto z = hn::FirstN(df, 0);
             auto ng = z;
             // The lanes past the row are zeros: they must not count.
-            const auto r = LnOf(dd, df, LoadFirst(df, src + x, rest), z, ng);
+            const auto r = LnOf(df, LoadFirst(df, src + x, rest), z, ng);
             const auto inRow = hn::FirstN(df, rest);
             zero = hn::Or(zero, hn::And(z, inRow));
             negative = hn::Or(negative, hn::And(ng, inRow));
