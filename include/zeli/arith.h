@@ -711,7 +711,11 @@ ZELAPI ZelStatus zeliSqr_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi
    gives 0; they always return 0. Checks: null, size, steps. 32f rows advance
    by the step rounded down to a multiple of 4 bytes, integer rows by the
    full step. Rows of at least 4096 elements (32f) or 2048 (8u) may be shared
-   between two threads; results and status do not depend on it. */
+   between two threads; results and status do not depend on it. 16u and 16s
+   images of 2^18 elements or more first tabulate the rule (64 or 128 KiB
+   from the aligned allocator): when that fails the call returns
+   zelStatusNoMemory (-9) having written nothing; the same holds for the 16u
+   and 16s members of Ln and Exp. */
 ZELAPI ZelStatus zeliSqrt_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
 ZELAPI ZelStatus zeliSqrt_8u_C1IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
 ZELAPI ZelStatus zeliSqrt_8u_C3RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);

@@ -18,6 +18,7 @@
 #include "core/checks.h"
 #include "core/fpcontrol.h"
 #include "core/image.h"
+#include "core/memory.h"
 #include "core/parallel.h"
 #include "core/pixel.h"
 #include "zeli.h"
@@ -163,9 +164,16 @@ ZelStatus unaryRows(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi
                                                                                              : ZelStatus(key % 16);
 }
 
+// Whether a row function could get what it needs (see RuleRow).
+template <class Row>
+bool rowReady(const Row&) {
+    return true;
+}
+
 // Checks, then the floating-point environment where the kernels need it,
 // then the rows. makeRow() is called after the checks and returns the row
-// function (8-bit tables are built there).
+// function (tables are built there); a row function that could not get its
+// table makes the call return zelStatusNoMemory, having written nothing.
 template <class T, Layout L, class MakeRow>
 ZelStatus unaryImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, const UnaryPlan& plan,
                      MakeRow&& makeRow) {
@@ -175,11 +183,16 @@ ZelStatus unaryImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize ro
     check.roi(roi);
     check.steps(srcStep, dstStep);
     if (ZelStatus st = check) return st;
+    auto run = [&] {
+        auto row = makeRow();
+        if (!rowReady(row)) return zelStatusNoMemory;
+        return unaryRows<T, L>(src, srcStep, dst, dstStep, roi, plan, row);
+    };
     if (plan.floatingPoint) {
         StandardFpEnvironment environment;
-        return unaryRows<T, L>(src, srcStep, dst, dstStep, roi, plan, makeRow());
+        return run();
     }
-    return unaryRows<T, L>(src, srcStep, dst, dstStep, roi, plan, makeRow());
+    return run();
 }
 
 // A row through a 256-entry table of 8-bit results; with `zeroCode` the
@@ -196,17 +209,48 @@ inline auto tableRow(const Zel8u* table, int zeroCode) {
     };
 }
 
-// A row of 16-bit elements through a scalar rule f(x, code).
+// A row of 16-bit elements through a rule f(x, code) -> result. Images of
+// at least kTableFrom elements first apply the rule to every positive value
+// once (a table of 32768 or 65536 results from the aligned allocator) and
+// look their positive elements up; zero and negative elements, the only
+// ones with a code, always take the rule. Both give the rule's values.
+constexpr std::int64_t kTableFrom = std::int64_t{1} << 18;
+
 template <class T, class F>
-auto scalarRow(F f) {
-    return [f](const T* s, T* d, std::ptrdiff_t n, bool ac4) {
+struct RuleRow {
+    F f;
+    bool wantsTable;
+    Buffer<T> table;
+
+    int operator()(const T* s, T* d, std::ptrdiff_t n, bool ac4) const {
         int code = 0;
+        const T* t = table.get();
         for (std::ptrdiff_t i = 0; i < n; ++i) {
             if (ac4 && (i & 3) == 3) continue;
-            d[i] = f(s[i], code);
+            const T x = s[i];
+            d[i] = t != nullptr && x > 0 ? t[x] : f(x, code);
         }
         return code;
-    };
+    }
+};
+
+template <class T, class F>
+bool rowReady(const RuleRow<T, F>& row) {
+    return !row.wantsTable || row.table != nullptr;
+}
+
+template <class T, Layout L, class F>
+RuleRow<T, F> ruleRow(ZeliSize roi, F f) {
+    RuleRow<T, F> row{f, std::int64_t{roi.width} * roi.height * kChannels<L> >= kTableFrom, nullptr};
+    if (row.wantsTable) {
+        constexpr int kValues = int(std::numeric_limits<T>::max()) + 1;
+        row.table = allocBuffer<T>(kValues);
+        if (row.table != nullptr) {
+            int code = 0;
+            for (int x = 0; x < kValues; ++x) row.table[x] = f(T(x), code);
+        }
+    }
+    return row;
 }
 
 }  // namespace zel::arith

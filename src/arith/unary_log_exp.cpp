@@ -43,8 +43,8 @@ ZelStatus lnImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, 
         });
     } else {
         static constexpr UnaryPlan kPlan{false, Gather::FirstNonZero, std::is_unsigned_v<T>, 0, true};
-        return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale] {
-            return scalarRow<T>([scale](T x, int& code) { return lnScaled<T>(x, scale, code); });
+        return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale, roi] {
+            return ruleRow<T, L>(roi, [scale](T x, int& code) { return lnScaled<T>(x, scale, code); });
         });
     }
 }
@@ -70,8 +70,8 @@ ZelStatus expImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi,
         });
     } else {
         static constexpr UnaryPlan kPlan{false, Gather::Last, true, 0, true};
-        return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale] {
-            return scalarRow<T>([scale](T x, int&) { return expScaled<T>(x, scale); });
+        return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale, roi] {
+            return ruleRow<T, L>(roi, [scale](T x, int&) { return expScaled<T>(x, scale); });
         });
     }
 }

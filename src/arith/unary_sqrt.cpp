@@ -45,8 +45,8 @@ ZelStatus sqrtImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi
         });
     } else {
         static constexpr UnaryPlan kPlan{false, Gather::Ignore, true, 0, true};
-        return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale] {
-            return scalarRow<T>([scale](T x, int& code) { return sqrtScaled<T>(x, scale, code); });
+        return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale, roi] {
+            return ruleRow<T, L>(roi, [scale](T x, int& code) { return sqrtScaled<T>(x, scale, code); });
         });
     }
 }

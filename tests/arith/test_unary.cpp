@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "core/memory.h"
 #include "harness/checkorder.h"
 #include "harness/image.h"
 #include "harness/sweep.h"
@@ -213,11 +214,12 @@ TEST(Unary, EveryMemberMatchesItsRuleOnGuardedImages) {
 }
 
 // Every input of the 8-bit and 16-bit members at the scale factors where
-// rounding, ties and saturation change, and far beyond them.
+// rounding, ties and saturation change, and far beyond them. Four copies of
+// every value: 16-bit images this large take the table path.
 template <class T>
 void expectExhaustive(const std::vector<int>& scales) {
     const int count = 1 << (8 * sizeof(T));
-    const ZeliSize size{256, count / 256};
+    const ZeliSize size{256, count / 256 * 4};
     Image<T> src(size, 1);
     src.fill([&](int x, int y, int) { return T(std::numeric_limits<T>::min() + y * 256 + x); });
     for (const Member<T>& m : members<T>()) {
@@ -237,6 +239,17 @@ TEST(Unary, IntegerRulesHoldForEveryInput) {
     scales = {-17, -16, -15, -1, 0, 1, 2, 5, 15, 16, 17, 31, 33, extremes[0], extremes[1]};
     expectExhaustive<Zel16u>(scales);
     expectExhaustive<Zel16s>(scales);
+}
+
+// A table that cannot be allocated: -9, nothing written.
+TEST(Unary, LargeSixteenBitImagesReportAMissingTable) {
+    Image<Zel16u> src({512, 512}, 1), dst({512, 512}, 1);
+    failAllocationForTests(1);
+    EXPECT_EQ(zeliLn_16u_C1RSfs(src.roi(), src.step(), dst.roi(), dst.step(), src.size(), 0), zelStatusNoMemory);
+    failAllocationForTests(0);
+    EXPECT_TRUE(dst.unchanged());
+    EXPECT_GE(zeliLn_16u_C1RSfs(src.roi(), src.step(), dst.roi(), dst.step(), src.size(), 0), 0);
+    EXPECT_FALSE(dst.unchanged());
 }
 
 TEST(Unary, ExponentOf8uFollowsTheStatedValues) {
