@@ -188,7 +188,7 @@ void expectMembersMatchRule(const std::vector<int>& scales) {
                 std::vector<std::vector<T>> first;
                 int firstStatus = 0;
                 forEachConfig([&] {
-                    Image<T> dst(size, m.channels, m.writable, 1 + 2 * sizeof(T));
+                    Image<T> dst(size, m.channels, m.writable, 5 * sizeof(T));
                     const int status = run(m, src, dst, s);
                     ASSERT_GE(status, 0);
                     if (first.empty()) firstStatus = status;
