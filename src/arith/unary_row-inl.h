@@ -182,21 +182,17 @@ HWY_INLINE hn::VFromD<DF> ExpOf(DF df, hn::VFromD<DF> vf) {
     return hn::IfThenElse(hn::IsNaN(vf), hn::Add(vf, vf), y);
 }
 
-// ln x for x > 0: x = 2^e m with m in [sqrt(1/2), sqrt(2)) (subnormal x
-// scaled by 2^23 first), t = m - 1, ln m = t - t^2 / 2 + t^3 P(t) with a
-// minimax P of degree 8, e ln2 added in two parts. Zero gives -inf,
-// negative values (and -inf) the default NaN, +inf and NaN themselves;
-// `zero` and `negative` collect the lanes that met those cases.
+// ln x for a normal positive x: x = 2^e m with m in [sqrt(1/2), sqrt(2)),
+// t = m - 1, ln m = t - t^2 / 2 + t^3 P(t) with a minimax P of degree 8,
+// e ln2 added in two parts. `shift` is added to e (-23 for subnormal x
+// scaled by 2^23).
 template <class DF>
-HWY_INLINE hn::VFromD<DF> LnOf(DF df, hn::VFromD<DF> vf, hn::Mask<DF>& zero, hn::Mask<DF>& negative) {
+HWY_INLINE hn::VFromD<DF> LnNormal(DF df, hn::VFromD<DF> x, hn::VFromD<hn::RebindToSigned<DF>> shift) {
     const hn::RebindToSigned<DF> di;
-    const auto tiny = hn::Lt(vf, hn::Set(df, 1.17549435e-38f));
-    const auto xs = hn::IfThenElse(tiny, hn::Mul(vf, hn::Set(df, 8388608.0f)), vf);
-    const auto bits = hn::BitCast(di, xs);
-    auto e = hn::Sub(hn::ShiftRight<23>(bits), hn::Set(di, 126));
-    e = hn::IfThenElse(hn::RebindMask(di, tiny), hn::Sub(e, hn::Set(di, 23)), e);
+    const auto bits = hn::BitCast(di, x);
+    auto e = hn::Add(hn::Sub(hn::ShiftRight<23>(bits), hn::Set(di, 126)), shift);
     // m in [0.5, 1)
-    auto m = hn::BitCast(df, hn::Or(hn::And(bits, hn::Set(di, 0x007FFFFF)), hn::Set(di, 0x3F000000)));
+    const auto m = hn::BitCast(df, hn::Or(hn::And(bits, hn::Set(di, 0x007FFFFF)), hn::Set(di, 0x3F000000)));
     const auto low = hn::Lt(m, hn::Set(df, 0.707106781186547524f));
     e = hn::IfThenElse(hn::RebindMask(di, low), hn::Sub(e, hn::Set(di, 1)), e);
     const auto t = hn::Sub(hn::IfThenElse(low, hn::Add(m, m), m), hn::Set(df, 1.0f));
@@ -214,8 +210,23 @@ HWY_INLINE hn::VFromD<DF> LnOf(DF df, hn::VFromD<DF> vf, hn::Mask<DF>& zero, hn:
     auto y = hn::Mul(hn::Mul(p, t), z);
     y = hn::Add(y, hn::Mul(fe, hn::Set(df, -2.12194440e-4f)));
     y = hn::Sub(y, hn::Mul(z, hn::Set(df, 0.5f)));
-    auto r = hn::Add(hn::Add(t, y), hn::Mul(fe, hn::Set(df, 0.693359375f)));
+    return hn::Add(hn::Add(t, y), hn::Mul(fe, hn::Set(df, 0.693359375f)));
+}
 
+// ln x for any float: vectors of normal positive values take LnNormal
+// alone. Subnormal x is scaled by 2^23 first; zero gives -inf, negative
+// values (and -inf) the default NaN, +inf and NaN themselves; `zero` and
+// `negative` collect the lanes that met those cases.
+template <class DF>
+HWY_INLINE hn::VFromD<DF> LnOf(DF df, hn::VFromD<DF> vf, hn::Mask<DF>& zero, hn::Mask<DF>& negative) {
+    const hn::RebindToSigned<DF> di;
+    const auto bi = hn::BitCast(di, vf);
+    const auto outside = hn::Or(hn::Lt(bi, hn::Set(di, 0x00800000)), hn::Gt(bi, hn::Set(di, 0x7F7FFFFF)));
+    if (hn::AllFalse(di, outside)) return LnNormal(df, vf, hn::Zero(di));
+
+    const auto tiny = hn::Lt(vf, hn::Set(df, 1.17549435e-38f));
+    const auto xs = hn::IfThenElse(tiny, hn::Mul(vf, hn::Set(df, 8388608.0f)), vf);
+    auto r = LnNormal(df, xs, hn::IfThenElseZero(hn::RebindMask(di, tiny), hn::Set(di, -23)));
     const auto isZero = hn::Eq(vf, hn::Zero(df));
     const auto isNegative = hn::Lt(vf, hn::Zero(df));
     zero = hn::Or(zero, isZero);
