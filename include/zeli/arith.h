@@ -745,8 +745,9 @@ ZELAPI ZelStatus zeliSqrt_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize ro
 /* Ln: pDst = ln(pSrc). 32f: zero gives -inf, a negative value (or -inf)
    the default NaN, +inf and NaN themselves; other results are within 1 ulp
    of the correctly rounded value (checked on every float), the same bits on
-   every processor and in every floating-point environment. The row is worked in chunks of 256 elements and the
-   first chunk that met a zero or a negative value sets the row's warning:
+   every processor and in every floating-point environment. The row is
+   worked in chunks of 256 elements and the first chunk that met a zero or a
+   negative value sets the row's warning:
    zelStatusWarnLogOfZero (7) when it met only zeros, otherwise
    zelStatusWarnLogOfNegative (8). Integer members give ln(x) * 2^-scaleFactor
    rounded to nearest with ties to even, saturated; zero gives the type's
@@ -774,11 +775,11 @@ ZELAPI ZelStatus zeliLn_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSi
 /* Exp: pDst = e^pSrc. 32f results are within 1 ulp of the correctly
    rounded value (checked on every float, subnormal results included), the
    same bits on every processor and in every floating-point environment;
-   -inf gives 0, overflow +inf, NaN stays NaN. Integer
-   members give e^x * 2^-scaleFactor rounded half up (not half to even: with
-   scale factor 1, e^0 gives 1) and saturated; 8u with a scale factor below
-   -7 gives 255 everywhere. Checks: null, size, steps; rows advance by the
-   full step. Always returns 0. */
+   -inf gives 0, overflow +inf, NaN stays NaN. Integer members give
+   e^x * 2^-scaleFactor rounded half up (not half to even: with scale factor
+   1, e^0 gives 1) and saturated; 8u with a scale factor below -7 gives 255
+   everywhere. Checks: null, size, steps; rows advance by the full step.
+   Always returns 0. */
 ZELAPI ZelStatus zeliExp_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
 ZELAPI ZelStatus zeliExp_8u_C1IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
 ZELAPI ZelStatus zeliExp_8u_C3RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
