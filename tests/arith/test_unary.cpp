@@ -339,6 +339,7 @@ TEST(Unary, StatusIsGatheredAsTheFamilyStates) {
     auto with = [&](std::vector<std::pair<int, float>> at) { auto v = wide; for (auto [i, x] : at) v[i] = x; return v; };
     const Case cases[] = {
         {"Sqrt: negative in the second row", {1, 4, 9, -1, 16, 25}, 3, 3, sqrt},
+        {"Sqrt: negative in the first row only", {1, -4, 9, 1, 16, 25}, 3, 3, sqrt},
         {"Ln: zero in row 1, negative in row 2", {1, 0, 2, -3}, 2, 7, ln},
         {"Ln: negative in row 1, zero in row 2", {-1, 2, 0, 2}, 2, 8, ln},
         {"Ln: -0 and -inf", {-0.0f, 1, -inf, 1}, 2, 7, ln},
