@@ -883,6 +883,167 @@ ZELAPI ZelStatus zeliDivC_32fc_AC4R(const Zel32fc* pSrc, int srcStep, const Zel3
 ZELAPI ZelStatus zeliDivC_32fc_AC4IR(const Zel32fc value[], Zel32fc* pSrcDst, int srcDstStep,
     ZeliSize roi);
 
+/* ==== Unary mathematics ================================================== */
+/* Abs: pDst = |pSrc|. 16s saturates: |-32768| is 32767; 32f clears the sign
+   bit (NaN stays NaN, -0 becomes +0). Checks: null, then size, then steps
+   (< 1 gives -14). Rows advance by the step rounded down to a multiple of
+   the element size (a 7-byte step advances 6 bytes for 16s). AC4 members
+   leave the fourth channel as it is. Returns 0. */
+ZELAPI ZelStatus zeliAbs_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAbs_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Sqr: pDst = pSrc^2. Integer results are the exact square times
+   2^-scaleFactor, rounded half to even and saturated, exactly as Mul of the
+   image with itself. 32f is the IEEE product. Checks: null, size, steps.
+   32f rows advance by the step rounded down to a multiple of 4 bytes,
+   integer rows by the full step. AC4 leaves the fourth channel as it is.
+   Always returns 0. */
+ZELAPI ZelStatus zeliSqr_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C1IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C3RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C3IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C4RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_C4IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_8u_AC4IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C1IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C3RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C3IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C4RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_C4IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16u_AC4IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C1IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C3RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C3IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C4RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_C4IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_16s_AC4IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqr_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqr_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Sqrt: pDst = sqrt(pSrc). 32f is the IEEE square root (-0 gives -0, a
+   negative value the default NaN); a negative element makes the call return
+   zelStatusWarnSqrtOfNegative (3) after every row is computed. Integer
+   members give sqrt(x) * 2^-scaleFactor rounded to nearest with ties to even
+   (sqrt(9) with scale factor 1 gives 2), saturated; a negative 16s element
+   gives 0; they always return 0. Checks: null, size, steps. 32f rows advance
+   by the step rounded down to a multiple of 4 bytes, integer rows by the
+   full step. Rows of at least 4096 elements (32f) or 2048 (8u) may be shared
+   between two threads; results and status do not depend on it. 16u and 16s
+   images of 2^18 elements or more first tabulate the rule (64 or 128 KiB
+   from the aligned allocator): when that fails the call returns
+   zelStatusNoMemory (-9) having written nothing; the same holds for the 16u
+   and 16s members of Ln and Exp. */
+ZELAPI ZelStatus zeliSqrt_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C1IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C3RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_C3IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_AC4RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_8u_AC4IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C1IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C3RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_C3IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_AC4RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16u_AC4IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C1IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C3RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_C3IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_AC4RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_16s_AC4IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliSqrt_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliSqrt_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Ln: pDst = ln(pSrc). 32f: zero gives -inf, a negative value (or -inf)
+   the default NaN, +inf and NaN themselves; other results are within 1 ulp
+   of the correctly rounded value (checked on every float), the same bits on
+   every processor and in every floating-point environment. The row is
+   worked in chunks of 256 elements and the first chunk that met a zero or a
+   negative value sets the row's warning:
+   zelStatusWarnLogOfZero (7) when it met only zeros, otherwise
+   zelStatusWarnLogOfNegative (8). Integer members give ln(x) * 2^-scaleFactor
+   rounded to nearest with ties to even, saturated; zero gives the type's
+   lowest value (0, or -32768 for 16s) and warning 7, a negative 16s value
+   gives 0 and warning 8 (a 16s row with both reports 8). The call returns
+   the first warning of any row, after every row is computed. Checks: null,
+   size, steps; rows advance by the full step. */
+ZELAPI ZelStatus zeliLn_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C1IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C3RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_8u_C3IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C1IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C3RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16u_C3IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C1IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C3RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_16s_C3IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliLn_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliLn_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Exp: pDst = e^pSrc. 32f results are within 1 ulp of the correctly
+   rounded value (checked on every float, subnormal results included), the
+   same bits on every processor and in every floating-point environment;
+   -inf gives 0, overflow +inf, NaN stays NaN. Integer members give
+   e^x * 2^-scaleFactor rounded half up (not half to even: with scale factor
+   1, e^0 gives 1) and saturated; 8u with a scale factor below -7 gives 255
+   everywhere. Checks: null, size, steps; rows advance by the full step.
+   Always returns 0. */
+ZELAPI ZelStatus zeliExp_8u_C1RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C1IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C3RSfs(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_8u_C3IRSfs(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C1RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C1IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C3RSfs(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16u_C3IRSfs(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C1RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C1IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C3RSfs(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_16s_C3IRSfs(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, int scaleFactor);
+ZELAPI ZelStatus zeliExp_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliExp_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
+/* Complement: pSrcDst = ~pSrcDst, the bitwise complement (-x - 1) of every
+   element. Checks: null, then the step (< 1 gives -14), then the size.
+   Returns 0. */
+ZELAPI ZelStatus zeliComplement_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif
