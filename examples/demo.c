@@ -196,10 +196,12 @@ int main(int argc, char** argv) {
          zeliFilterSobelVert_8u16s_C1R(greyInside, greyStep, gx, gxStep, size, zelMaskCode3x3));
     STEP("FilterSobelHoriz_8u16s_C1R: below minus above",
          zeliFilterSobelHoriz_8u16s_C1R(greyInside, greyStep, gy, gyStep, size, zelMaskCode3x3));
+    STEP("Abs_16s_C1IR: |gx|, in place", zeliAbs_16s_C1IR(gx, gxStep, size));
+    STEP("Abs_16s_C1IR: |gy|, in place", zeliAbs_16s_C1IR(gy, gyStep, size));
+    STEP("Add_16s_C1IRSfs: (|gx| + |gy|) / 4 into gy", zeliAdd_16s_C1IRSfs(gx, gxStep, gy, gyStep, size, 2));
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x) {
-            int a = gx[(long)y * gxStep / 2 + x], b = gy[(long)y * gyStep / 2 + x];
-            int m = (abs(a) + abs(b)) / 4;
+            int m = gy[(long)y * gyStep / 2 + x];
             edges[(long)y * edgesStep + x] = (Zel8u)(m > 255 ? 255 : m);
         }
     save("edges.png", edges, edgesStep, size, 1);
