@@ -128,16 +128,25 @@ bool fits(ZeliSize src, ZeliSize dst, int top, int left) {
 
 // The moves of one layout: pixels of `channels` elements of which the first
 // `written` are ours.
-template <class B>
+template <class B, Layout L>
 struct Pixels {
-    int channels, written;
-    void (*repeat)(B*, std::ptrdiff_t, const B*);
+    static constexpr int channels = kChannels<L>, written = kComputed<L>;
+    // Borders of a few pixels, as most filters need, are written here
+    // without a call; longer runs take the vector kernel.
+    static constexpr std::ptrdiff_t kShortRun = 8;
+    void (*repeat)(B*, std::ptrdiff_t, const B*) = ZEL_DISPATCH(RepeatPixel<B, channels, written>);
 
+    void fill(B* to, std::ptrdiff_t pixels, const B* pixel) const {
+        if (pixels > kShortRun) return repeat(to, pixels, pixel);
+        B value[channels];
+        std::memcpy(value, pixel, written * sizeof(B));
+        for (std::ptrdiff_t x = 0; x < pixels; ++x) std::memcpy(to + x * channels, value, written * sizeof(B));
+    }
     // Copies `pixels` pixels (ours only: AC4 alpha is not touched); the
     // ranges do not overlap.
-    void copy(const B* from, B* to, std::ptrdiff_t pixels) const {
+    static void copy(const B* from, B* to, std::ptrdiff_t pixels) {
         if (pixels <= 0) return;
-        if (written == channels) {
+        if constexpr (written == channels) {
             std::memcpy(to, from, static_cast<std::size_t>(pixels) * channels * sizeof(B));
         } else {
             shuffleImage<B, 4, 4, FixedOrder<0, 1, 2, kKeep>>(from, 0, to, 0, ZeliSize{int(pixels), 1},
@@ -146,16 +155,11 @@ struct Pixels {
     }
 };
 
-template <class B, Layout L>
-Pixels<B> pixelsOf() {
-    return {kChannels<L>, kComputed<L>, ZEL_DISPATCH(RepeatPixel<B, kChannels<L>, kComputed<L>>)};
-}
-
 // Wrap: the right border continues the row's period from its source
 // pixels, doubling the copied stretch each time; the left border is then
 // filled right to left with whole periods taken from the filled part.
-template <class B>
-void wrapRow(B* row, const Placement& p, const Pixels<B>& px) {
+template <class B, Layout L>
+void wrapRow(B* row, const Placement& p, const Pixels<B, L>& px) {
     const int c = px.channels;
     B* s = row + p.left * c;
     const std::ptrdiff_t need = p.srcWidth + p.right();
@@ -177,17 +181,17 @@ void wrapRow(B* row, const Placement& p, const Pixels<B>& px) {
 }
 
 // Extends the source pixels of one destination row to its full width.
-template <class B, Fill F>
-void extendRow(B* row, const Placement& p, const B* value, const Pixels<B>& px) {
+template <class B, Layout L, Fill F>
+void extendRow(B* row, const Placement& p, const B* value, const Pixels<B, L>& px) {
     const int c = px.channels;
     B* s = row + p.left * c;
     B* after = s + p.srcWidth * c;
     if constexpr (F == Fill::constant) {
-        px.repeat(row, p.left, value);
-        px.repeat(after, p.right(), value);
+        px.fill(row, p.left, value);
+        px.fill(after, p.right(), value);
     } else if constexpr (F == Fill::replicate) {
-        px.repeat(row, p.left, s);
-        px.repeat(after, p.right(), after - c);
+        px.fill(row, p.left, s);
+        px.fill(after, p.right(), after - c);
     } else {
         wrapRow(row, p, px);
     }
@@ -196,20 +200,20 @@ void extendRow(B* row, const Placement& p, const B* value, const Pixels<B>& px) 
 // Builds the border of the destination whose first pixel is `origin`; the
 // band rows top .. top + srcHeight - 1 get their source pixels from
 // place(y, row) (a copy, or nothing in place) before they are extended.
-template <class B, Fill F, class Place>
-void buildBorder(B* origin, int step, const Placement& p, const B* value, const Pixels<B>& px,
+template <class B, Layout L, Fill F, class Place>
+void buildBorder(B* origin, int step, const Placement& p, const B* value, const Pixels<B, L>& px,
                  std::int64_t bytes, Place&& place) {
     const std::ptrdiff_t borderRows = p.top + p.bottom();
     auto band = [&](std::ptrdiff_t i) {
         B* row = rowAt(origin, step, p.top + i);
         place(i, row + p.left * px.channels);
-        extendRow<B, F>(row, p, value, px);
+        extendRow<B, L, F>(row, p, value, px);
     };
     auto border = [&](std::ptrdiff_t k) {
         const std::ptrdiff_t y = k < p.top ? k : k + p.srcHeight;
         B* row = rowAt(origin, step, y);
         if constexpr (F == Fill::constant) {
-            px.repeat(row, p.dstWidth, value);
+            px.fill(row, p.dstWidth, value);
         } else {
             std::ptrdiff_t from;  // the band row this row repeats
             if constexpr (F == Fill::replicate) {
@@ -247,14 +251,14 @@ ZelStatus copyBorder(const T* pSrc, int srcStep, ZeliSize srcRoi, T* pDst, int d
                            .that(F != Fill::constant || value != nullptr, zelStatusNullPtr))
         return st;
     using B = BitsOf<T>;
-    const Pixels<B> px = pixelsOf<B, L>();
+    const Pixels<B, L> px;
     B fill[4] = {};
     if (value != nullptr) std::memcpy(fill, value, kComputed<L> * sizeof(T));
     const Placement p = placementOf(srcRoi, dstRoi, top, left);
     const auto* src = reinterpret_cast<const B*>(pSrc);
     const std::int64_t pixelBytes = kChannels<L> * sizeof(T);
     const std::int64_t bytes = (p.dstWidth * p.dstHeight + p.srcWidth * p.srcHeight) * pixelBytes;
-    buildBorder<B, F>(reinterpret_cast<B*>(pDst), dstStep, p, fill, px, bytes,
+    buildBorder<B, L, F>(reinterpret_cast<B*>(pDst), dstStep, p, fill, px, bytes,
                       [&](std::ptrdiff_t i, B* at) { px.copy(rowAt(src, srcStep, i), at, p.srcWidth); });
     return zelStatusOk;
 }
@@ -267,7 +271,7 @@ ZelStatus copyBorderInPlace(T* pSrcDst, int step, ZeliSize srcRoi, ZeliSize dstR
     const Placement p = placementOf(srcRoi, dstRoi, top, left);
     const std::int64_t pixelBytes = kChannels<L> * sizeof(T);
     B* origin = byteOffset(rowAt(reinterpret_cast<B*>(pSrcDst), step, -p.top), -p.left * pixelBytes);
-    buildBorder<B, F>(origin, step, p, static_cast<const B*>(nullptr), pixelsOf<B, L>(),
+    buildBorder<B, L, F>(origin, step, p, static_cast<const B*>(nullptr), Pixels<B, L>(),
                       p.dstWidth * p.dstHeight * pixelBytes, [](std::ptrdiff_t, B*) {});
     return zelStatusOk;
 }
