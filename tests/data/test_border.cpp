@@ -1,13 +1,15 @@
 // Border construction: every member against the coordinate rules (constant,
 // clamped, periodic) over a table of placements, in place against out of
-// place, and the check order. Images sit in guarded buffers at unaligned
-// offsets; AC4 alpha must keep its random bytes.
+// place, AC4 alpha next to an inaccessible page, and the check order.
+// Images sit in guarded buffers at unaligned offsets; AC4 alpha must keep
+// its random bytes.
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "harness/checkorder.h"
 #include "harness/image.h"
+#include "harness/pages.h"
 #include "harness/sweep.h"
 #include "zeli.h"
 
@@ -121,6 +123,35 @@ TEST(Border, EveryFillFollowsItsCoordinateRuleInAndOutOfPlace) {
     members32.push_back({"Wrap 32s C1", 1, 1, Kind::wrap, withoutValue<Zel32s, zeliCopyWrapBorder_32s_C1R>,
                          zeliCopyWrapBorder_32s_C1IR});
     checkMembers<Zel32s>(members32);
+}
+
+// AC4: the alpha of the last source and destination pixel lies on an
+// inaccessible page, so reading or storing it faults.
+template <class T>
+void checkFencedAlpha(const std::vector<Member<T>>& members) {
+    const T value[4] = {T(1), T(2), T(3), T(4)};
+    const Placement p{{37, 3}, {45, 7}, 2, 5};
+    const int ss = (p.src.width * 4 + 3) * sizeof(T), ds = (p.dst.width * 4 + 5) * sizeof(T);
+    auto owned = [](ZeliSize s, int step) { return std::size_t(s.height - 1) * step + (s.width * 4 - 1) * sizeof(T); };
+    forEachConfig([&] {
+        for (const Member<T>& m : members) {
+            if (m.written == m.channels) continue;
+            SCOPED_TRACE(m.name);
+            Fenced src(owned(p.src, ss)), dst(owned(p.dst, ds));
+            ASSERT_TRUE(src.ok() && dst.ok());
+            T* d = reinterpret_cast<T*>(dst.data());
+            EXPECT_EQ(m.out(reinterpret_cast<const T*>(src.data()), ss, p.src, d, ds, p.dst, p.top, p.left, value), 0);
+            if (m.inPlace) {
+                EXPECT_EQ(m.inPlace(d + (p.top * ds) / sizeof(T) + p.left * 4, ds, p.src, p.dst, p.top, p.left), 0);
+            }
+        }
+    });
+}
+
+TEST(Border, Ac4AlphaIsNeitherReadNorWritten) {
+    checkFencedAlpha<Zel8u>(MEMBERS(Zel8u, 8u));
+    checkFencedAlpha<Zel16s>(MEMBERS(Zel16s, 16s));
+    checkFencedAlpha<Zel32s>(MEMBERS(Zel32s, 32s));
 }
 
 // Pointers, then steps, then the sizes and the placement, then the value
