@@ -269,7 +269,10 @@ ZELAPI ZelStatus zeliTranspose_32s_C4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSiz
    write channels 0-2 of the border and leave alpha as it was (never
    stored to); the constant AC4 members read value[0..2] only. Any border
    may be wider or taller than the source. The source rectangle of the
-   destination is an exact copy of the source.
+   destination is an exact copy of the source; the source and the
+   destination of an out-of-place member must not overlap. 16u and 16s
+   members are the same bit moves. Results do not depend on the SIMD
+   target or the thread count.
 
    CopyConstBorder: every border pixel takes the value (the scalar for C1,
    value[c] for channel c otherwise). */
