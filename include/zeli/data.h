@@ -255,6 +255,97 @@ ZELAPI ZelStatus zeliTranspose_32s_C3IR(Zel32s* pSrcDst, int srcDstStep, ZeliSiz
 ZELAPI ZelStatus zeliTranspose_32s_C4R(const Zel32s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
 ZELAPI ZelStatus zeliTranspose_32s_C4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roi);
 
+/* ==== Data exchange: border construction ================================= */
+
+/* The destination (dstRoiSize) holds the source (srcRoiSize) with its top
+   left pixel at column leftBorderWidth, row topBorderHeight; the bottom and
+   right borders take what is left of dstRoiSize. Checks, in this order:
+   a null image pointer gives zelStatusNullPtr; a step below 1 (both steps)
+   zelStatusBadStep; then zelStatusBadSize when a source or destination
+   side is below 1, topBorderHeight or leftBorderWidth is negative, or the
+   source and its top/left border do not fit the destination; a null value
+   array (C3, C4, AC4 constant members) is only then reported, with
+   zelStatusNullPtr. Nothing is written when a check fails. AC4 members
+   write channels 0-2 of the border and leave alpha as it was (never
+   stored to); the constant AC4 members read value[0..2] only. Any border
+   may be wider or taller than the source. The source rectangle of the
+   destination is an exact copy of the source; the source and the
+   destination of an out-of-place member must not overlap. 16u and 16s
+   members are the same bit moves. Results do not depend on the SIMD
+   target or the thread count.
+
+   CopyConstBorder: every border pixel takes the value (the scalar for C1,
+   value[c] for channel c otherwise). */
+
+ZELAPI ZelStatus zeliCopyConstBorder_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel8u value);
+ZELAPI ZelStatus zeliCopyConstBorder_8u_C3R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel8u value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_8u_C4R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel8u value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_8u_AC4R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel8u value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_C1R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel16u value);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_C3R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16u value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_C4R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16u value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_16u_AC4R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16u value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_C1R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel16s value);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_C3R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16s value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_C4R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16s value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_16s_AC4R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel16s value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_C1R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Zel32s value);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_C3R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32s value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_C4R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32s value[]);
+ZELAPI ZelStatus zeliCopyConstBorder_32s_AC4R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Zel32s value[]);
+
+/* CopyReplicateBorder: border pixel (x, y) takes source pixel
+   (clamp(x - left, 0, srcWidth - 1), clamp(y - top, 0, srcHeight - 1)):
+   side borders repeat the first or last pixel of the row, top and bottom
+   borders the first or last row with its side borders, corners the corner
+   pixel. The in-place members (IR) take pSrcDst at the first source pixel
+   inside a larger image of step srcDstStep and write the border around it,
+   at negative offsets for the top and left borders; the source pixels are
+   not moved, and the result is the one the out-of-place member gives. */
+
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C3R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C4R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_AC4R(const Zel8u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel8u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C1R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C3R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C4R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_AC4R(const Zel16u* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16u* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C1R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C3R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C4R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_AC4R(const Zel16s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel16s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C1R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C3R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C3IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C4R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_C4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_AC4R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyReplicateBorder_32s_AC4IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* CopyWrapBorder: border pixel (x, y) takes source pixel
+   ((x - left) mod srcWidth, (y - top) mod srcHeight) with the modulo in
+   0 .. size - 1: the left border shows the right end of each row, the top
+   border the bottom rows. Borders wider or taller than the source repeat
+   the source periodically, as the rule says for every (x, y). In place as
+   for CopyReplicateBorder. */
+
+ZELAPI ZelStatus zeliCopyWrapBorder_32s_C1R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+ZELAPI ZelStatus zeliCopyWrapBorder_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
 #ifdef __cplusplus
 }
 #endif

@@ -36,6 +36,13 @@ STEP_CHECKS = {
     'Div_Round': lambda t, lay: True,
     'DivC': lambda t, lay: True,
 }
+# Border members: the destination is the ROI (the source size) grown by
+# BORDER pixels on every side, with top = left = BORDER; in place, the
+# pointer lies BORDER pixels and rows inside that grown rectangle.
+BORDER_FAMILIES = ('CopyConstBorder', 'CopyReplicateBorder', 'CopyWrapBorder')
+BORDER = 3
+for fam in BORDER_FAMILIES:
+    STEP_CHECKS[fam] = lambda t, lay: True
 for fam in ('Add', 'AddC', 'Sub', 'SubC', 'Mul', 'MulC'):
     STEP_CHECKS[fam] = lambda t, lay: t in ('16sc', '32fc')
 for fam in ('And', 'AndC', 'Or', 'OrC', 'Xor', 'XorC', 'Not', 'LShiftC', 'RShiftC'):
@@ -137,9 +144,12 @@ def image_entry(name, params):
             if planes and not arr:
                 fail('%s: planar operand %s is not an array' % (name, pname))
             transposed = family == 'Transpose' and is_dst and not inplace
-            ops.append('{"%s", %d, %d, %d, %d, %d, %s, %s, %s, "%s"}' % (
+            grown = ''
+            if family in BORDER_FAMILIES and is_dst:
+                grown = ', %d, %d' % (BORDER, BORDER if inplace else 0)
+            ops.append('{"%s", %d, %d, %d, %d, %d, %s, %s, %s, "%s"%s}' % (
                 pname, el, ch, wmask, coff, planes, 'true' if is_dst else 'false',
-                'true' if fl else 'false', 'true' if transposed else 'false', STEP_OF[base]))
+                'true' if fl else 'false', 'true' if transposed else 'false', STEP_OF[base], grown))
             cast = ('const ' if ptype.startswith('const') else '') + (
                 'Zel8u' if base == 'pMask' else dctype if is_dst else ctype)
             if planes:
@@ -152,14 +162,18 @@ def image_entry(name, params):
                 nulls.append('{"%s", %d, -1}' % (pname, idx))
             continue
         if pname.endswith('Step'):
-            owners = [i for i, o in enumerate(ops) if o.endswith('"%s"}' % pname)]
+            owners = [i for i, o in enumerate(ops) if re.search(r'"%s"(, \d+, \d+)?}$' % pname, o)]
             if len(owners) != 1:
                 fail('%s: step %s belongs to no image operand' % (name, pname))
             args.append('c.step(%d)' % owners[0])
             steps.append(owners[0])
             continue
-        if pname in ('roi', 'roiSize') and ptype == 'ZeliSize':
+        if pname in ('roi', 'roiSize', 'srcRoiSize') and ptype == 'ZeliSize':
             args.append('c.roi')
+        elif pname == 'dstRoiSize' and ptype == 'ZeliSize' and family in BORDER_FAMILIES:
+            args.append('c.dstRoi')
+        elif pname in ('topBorderHeight', 'leftBorderWidth') and ptype == 'int' and family in BORDER_FAMILIES:
+            args.append('c.top' if pname.startswith('top') else 'c.left')
         elif pname == 'value' and ptype.replace('const ', '') == 'Zel32u':
             # shift counts: unsigned, whatever the element type
             if arr is not None:

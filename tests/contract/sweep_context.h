@@ -36,6 +36,8 @@ struct OperandInfo {
     bool isFloat;
     bool transposed;   // roi.height wide and roi.width high
     const char* stepName;
+    int grow = 0;      // the image is the ROI grown by this many pixels on every side (border members)
+    int inset = 0;     // the pointer addresses the pixel this many pixels and rows inside the image
 };
 
 // A pointer the rejection cases set to null: operand index (or -2 for the
@@ -48,6 +50,8 @@ struct NullCase {
 };
 
 class SweepContext;
+struct CallEntry;
+inline bool hasBorder(const CallEntry& e);
 
 // How a member checks its mask code: not at all (no mask), 33 and 55 only,
 // or 33 as 3x3 and any other value as 5x5.
@@ -67,6 +71,13 @@ struct CallEntry {
     const char* layout;
     int (*call)(SweepContext&);
 };
+
+// Border members take a destination size and the source's place in it.
+inline bool hasBorder(const CallEntry& e) {
+    for (const OperandInfo& info : e.ops)
+        if (info.grow > 0) return true;
+    return false;
+}
 
 enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan };
 
@@ -93,6 +104,9 @@ public:
 
     // Arguments the thunks read.
     ZeliSize roi{};
+    // Border members: the destination size and the source's place in it.
+    ZeliSize dstRoi{};
+    int top = 0, left = 0;
     int scaleFactor = 1;
     int rndMode = 1;
     int mask = zelMaskCode3x3;
@@ -102,6 +116,10 @@ public:
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
         roi = g.roi;
+        int grow = 0;
+        for (const OperandInfo& info : entry.ops) grow = std::max(grow, info.grow);
+        dstRoi = {g.roi.width + 2 * grow, g.roi.height + 2 * grow};
+        top = left = grow;
         scaleFactor = 1;
         rndMode = 1;
         mask = zelMaskCode3x3;
@@ -114,15 +132,16 @@ public:
         for (std::size_t i = 0; i < entry.ops.size(); ++i) {
             const OperandInfo& info = entry.ops[i];
             Buffers& b = ops_[i];
-            b.width = info.transposed ? g.roi.height : g.roi.width;
-            b.height = info.transposed ? g.roi.width : g.roi.height;
+            b.width = (info.transposed ? g.roi.height : g.roi.width) + 2 * info.grow;
+            b.height = (info.transposed ? g.roi.width : g.roi.height) + 2 * info.grow;
             b.pixelBytes = info.elemBytes * info.channels;
             const int side = g.tight ? 0 : kMargin;
             b.step = (b.width + 2 * side) * b.pixelBytes + (g.tight ? 0 : g.padElements * info.elemBytes);
             b.offset = std::ptrdiff_t{kMargin} * b.step + side * b.pixelBytes +
                        (g.offsetElements + info.channelOffset) * info.elemBytes;
             b.stepArg = g.upward ? -b.step : b.step;
-            b.pointerOffset = b.offset + (g.upward ? std::ptrdiff_t{b.height - 1} * b.step : 0);
+            b.pointerOffset = b.offset + std::ptrdiff_t{info.inset} * (b.step + b.pixelBytes) +
+                              (g.upward ? std::ptrdiff_t{b.height - 1} * b.step : 0);
             const std::size_t bytes = std::size_t(b.step) * (b.height + 2 * kMargin) +
                                       std::size_t(g.offsetElements + 1) * info.elemBytes;
             b.planes.assign(std::max(info.planes, 1), {});
@@ -282,6 +301,9 @@ public:
                         std::to_string(roi.height) + " steps";
         for (const auto& b : ops_) s += " " + std::to_string(b.stepArg);
         if (upward()) s += " (upward)";
+        if (hasBorder(*entry_))
+            s += " dstRoi " + std::to_string(dstRoi.width) + "x" + std::to_string(dstRoi.height) + " top " +
+                 std::to_string(top) + " left " + std::to_string(left);
         s += " scaleFactor " + std::to_string(scaleFactor);
         s += " constants";
         for (int v : constants_) s += " " + std::to_string(v);

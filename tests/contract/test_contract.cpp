@@ -70,6 +70,18 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
     for (ZeliSize s : sizes)
         list.push_back({"roi " + std::to_string(s.width) + "x" + std::to_string(s.height), zelStatusBadSize,
                         [s](SweepContext& c) { c.roi = s; }});
+    if (hasBorder(e)) {
+        // The destination size and the placement are size conditions too.
+        const std::pair<const char*, std::function<void(SweepContext&)>> placements[] = {
+            {"dstRoi width 0", [](SweepContext& c) { c.dstRoi.width = 0; }},
+            {"dstRoi height -1", [](SweepContext& c) { c.dstRoi.height = -1; }},
+            {"dstRoi one column short", [](SweepContext& c) { c.dstRoi.width = c.roi.width + c.left - 1; }},
+            {"dstRoi one row short", [](SweepContext& c) { c.dstRoi.height = c.roi.height + c.top - 1; }},
+            {"top -1", [](SweepContext& c) { c.top = -1; }},
+            {"left -1", [](SweepContext& c) { c.left = -1; }},
+        };
+        for (const auto& [what, apply] : placements) list.push_back({what, zelStatusBadSize, apply});
+    }
     if (e.squareRoi)
         list.push_back({"non-square roi", zelStatusBadSize, [](SweepContext& c) { c.roi = {c.roi.width, c.roi.height - 1}; }});
     // Transpose out of place with pSrc == pDst: only a square ROI with equal
