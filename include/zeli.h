@@ -45,6 +45,7 @@
 #include "zeli/types.h"
 #include "zeli/core.h"
 #include "zeli/data.h"
+#include "zeli/threshold.h"
 #include "zeli/arith.h"
 #include "zeli/filter.h"
 
