@@ -72,10 +72,6 @@ Zel8u otsuFromHistogram(const Histogram& hist) {
     return static_cast<Zel8u>(std::trunc(t));
 }
 
-// Bytes of histogram work a thread must get: counting costs about as much
-// per byte as a widened pass.
-constexpr int kCostCount = kCostWiden;
-
 }  // namespace
 }  // namespace zel
 
@@ -85,7 +81,7 @@ ZelStatus zeliComputeThreshold_Otsu_8u_C1R(const Zel8u* pSrc, int srcStep, ZeliS
         return st;
     const std::int64_t bytes = std::int64_t{roiSize.width} * roiSize.height;
     const std::ptrdiff_t blocks = (roiSize.height + kRowsPerSlot - 1) / kRowsPerSlot;
-    const int team = teamSize(bytes, kCostCount, blocks);
+    const int team = teamSize(bytes, kCostHistogram, blocks);
     Histogram total{};
     const bool ok = reduceRows(
         roiSize.height, team, total,
