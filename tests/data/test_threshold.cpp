@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "harness/checkorder.h"
+#include "harness/pages.h"
 #include "harness/image.h"
 #include "harness/sweep.h"
 #include "zeli.h"
@@ -426,6 +427,40 @@ TEST(Comparisons, ChecksInEachFamilysOrder) {
             {"EqualEpsC eps -1e-30", zelStatusNegativeEpsilon, [&] { return zeliCompareEqualEpsC_32f_C3R(p, s, k, d, ds, ok, -1e-30f); }},
         },
         a, dst);
+}
+
+// An AC4 image whose last pixel ends at its third channel, right before an
+// inaccessible page: no member may load (or store) that pixel's alpha.
+template <class T>
+void expectLastAlphaUntouched() {
+    for (ZeliSize roi : {ZeliSize{1, 1}, ZeliSize{17, 3}, ZeliSize{67, 2}}) {
+        const int step = roi.width * 4 * sizeof(T) + 8;
+        const std::size_t owned = std::size_t(roi.height - 1) * step + (roi.width * 4 - 1) * sizeof(T);
+        const Args<T> a = uniform<T>(T(1), T(2), T(3), T(4));
+        for (const Threshold<T>& m : thresholds<T>()) {
+            if (m.computed == m.channels) continue;
+            Fenced src(owned), dst(owned);
+            EXPECT_EQ(m.r(reinterpret_cast<const T*>(src.data()), step, reinterpret_cast<T*>(dst.data()), step, roi, a), 0);
+            EXPECT_EQ(m.ir(reinterpret_cast<T*>(dst.data()), step, roi, a), 0) << m.name;
+        }
+        for (const Comparison<T>& m : comparisons<T>()) {
+            if (m.computed == m.channels) continue;
+            Fenced first(owned), second(owned);
+            std::vector<Zel8u> dst(std::size_t(roi.width) * roi.height);
+            EXPECT_EQ(m.call(reinterpret_cast<const T*>(first.data()), step, reinterpret_cast<const T*>(second.data()),
+                             step, dst.data(), roi.width, roi, 1, 1.f),
+                      0) << m.name;
+        }
+    }
+}
+
+TEST(Comparisons, TheLastAlphaOfAnImageIsNeverRead) {
+    forEachConfig([] {
+        expectLastAlphaUntouched<Zel8u>();
+        expectLastAlphaUntouched<Zel16s>();
+        expectLastAlphaUntouched<Zel16u>();
+        expectLastAlphaUntouched<Zel32f>();
+    });
 }
 
 // ---- Otsu --------------------------------------------------------------------
