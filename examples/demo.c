@@ -206,6 +206,28 @@ int main(int argc, char** argv) {
         }
     save("edges.png", edges, edgesStep, size, 1);
 
+    /* Thresholds and comparisons: Otsu's grey level of the green channel,
+       the channel cut at it (dark to 0, bright to 255), and a mask of the
+       pixels that are brighter in the picture than in its blur. */
+    Zel8u level = 0;
+    STEP("ComputeThreshold_Otsu_8u_C1R: green channel",
+         zeliComputeThreshold_Otsu_8u_C1R(greyInside, greyStep, size, &level));
+    printf("  Otsu threshold of the green channel: %d\n", level);
+    int cutStep, brighterStep;
+    Zel8u* cut = zeliMalloc_8u_C1(size.width, size.height, &cutStep);
+    Zel8u* brighter = zeliMalloc_8u_C1(size.width, size.height, &brighterStep);
+    if (!cut || !brighter) return 1;
+    STEP("Threshold_LTValGTVal_8u_C1R: black and white at Otsu's level",
+         zeliThreshold_LTValGTVal_8u_C1R(greyInside, greyStep, cut, cutStep, size, level, 0, level, 255));
+    /* Comparisons are strict: the level itself was kept; it joins the dark class. */
+    STEP("Threshold_LTVal_8u_C1IR: the level itself to 0", zeliThreshold_LTVal_8u_C1IR(cut, cutStep, size, 255, 0));
+    save("otsu.png", cut, cutStep, size, 1);
+    STEP("Compare_8u_C3R: brighter than the blur in every channel",
+         zeliCompare_8u_C3R(rgb, rgbStep, blurred, blurredStep, brighter, brighterStep, size, zelCompareGreater));
+    save("brighter.png", brighter, brighterStep, size, 1);
+
+    zeliFree(brighter);
+    zeliFree(cut);
     zeliFree(edges);
     zeliFree(gy);
     zeliFree(gx);

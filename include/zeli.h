@@ -31,7 +31,8 @@
  *   where one image is both source and destination, and a source passed
  *   with the destination's own pointer and step to a pixelwise member whose
  *   source and destination have the same type and layout (the arithmetic
- *   families, Copy and SwapChannels within one layout): that call equals
+ *   families, Copy, SwapChannels within one layout and the thresholds):
+ *   that call equals
  *   the in-place form. Transpose states its own rule. Any other overlap of
  *   a source with a destination, such as a destination one element after
  *   its source, gives undefined results.
@@ -45,6 +46,7 @@
 #include "zeli/types.h"
 #include "zeli/core.h"
 #include "zeli/data.h"
+#include "zeli/threshold.h"
 #include "zeli/arith.h"
 #include "zeli/filter.h"
 

@@ -52,6 +52,20 @@ FIXED_FILTERS = ('SobelHoriz', 'SobelVert', 'SobelHorizMask', 'SobelVertMask', '
                  'RobertsDown', 'RobertsUp', 'Laplace', 'Gauss', 'Hipass', 'Lowpass', 'Sharpen')
 for fam in FIXED_FILTERS:
     STEP_CHECKS['Filter' + fam] = lambda t, lay: True
+# Thresholds, comparisons and Otsu check their steps (Otsu: against the width).
+THRESHOLDS = ('Threshold', 'Threshold_LT', 'Threshold_GT', 'Threshold_Val', 'Threshold_LTVal', 'Threshold_GTVal',
+              'Threshold_LTValGTVal')
+COMPARISONS = ('Compare', 'CompareC', 'CompareEqualEps', 'CompareEqualEpsC')
+for fam in THRESHOLDS + COMPARISONS + ('ComputeThreshold_Otsu',):
+    STEP_CHECKS[fam] = lambda t, lay: True
+# How a member treats its comparison op: not at all; 0 and 4 only, tested
+# after the other checks (Threshold) or before them (Threshold_Val); or any
+# op outside 0..4 makes a call that writes nothing and succeeds (Compare).
+OP_CHECKS = {'Threshold': 'OpCheck::thresholdLast', 'Threshold_Val': 'OpCheck::thresholdFirst',
+             'Compare': 'OpCheck::silent', 'CompareC': 'OpCheck::silent'}
+# Constant arrays: the context slot each parameter name draws from.
+LIMIT_SLOTS = {'threshold': 1, 'thresholdLT': 1, 'thresholdGT': 2, 'valueLT': 3, 'valueGT': 4}
+
 # Float Sobel members with a mask code take any value other than 33 as 5x5.
 LENIENT_MASKS = ('FilterSobelHorizMask', 'FilterSobelVertMask', 'FilterSobelHorizSecond',
                  'FilterSobelVertSecond', 'FilterSobelCross')
@@ -117,9 +131,13 @@ def image_entry(name, params):
 
     # Widening members (8u16s) write the second type.
     dst_type = re.fullmatch(r'zeli\w+?_\d+[a-z]+?(\d+[a-z]+)?_.*', name).group(1) or tsuf
+    if family in COMPARISONS:
+        dst_type = '8u'  # one 0/255 byte per pixel
     dctype, debytes, disfloat = ELEMENTS[dst_type]
     ops, args, nulls, steps = [], [], [], []
     rnd = False
+    eps = False
+    out_value = False
     mask = 'MaskCheck::none'
     order = 0
     for ptype, pname, arr in params:
@@ -132,6 +150,8 @@ def image_entry(name, params):
             else:
                 part = dst_part if is_dst else src_part
                 ch, wmask, coff, planes = operand(part, is_dst, coi, family, 0)
+                if is_dst and family in COMPARISONS:
+                    ch, wmask = 1, 1
                 if is_dst and one_channel_dst:
                     wmask, coff = 0b0010, 1
                 if not is_dst and one_channel_src:
@@ -202,6 +222,20 @@ def image_entry(name, params):
             mask = 'MaskCheck::lenient' if family in LENIENT_MASKS and tsuf == '32f' else 'MaskCheck::strict'
         elif pname == 'flags' and ptype == 'int':
             args.append('c.flags')
+        elif pname in LIMIT_SLOTS and arr is not None:
+            args.append('c.limits<%s>(%d)' % (ctype, LIMIT_SLOTS[pname]))
+            nulls.append('{"%s[]", %d, -1}' % (pname, -10 - LIMIT_SLOTS[pname]))
+        elif pname in LIMIT_SLOTS:
+            args.append('c.limit<%s>(%d)' % (ctype, LIMIT_SLOTS[pname]))
+        elif pname == 'cmpOp' and ptype == 'ZelCompareOp':
+            args.append('static_cast<ZelCompareOp>(c.cmpOp)')
+        elif pname == 'eps' and ptype == 'Zel32f':
+            args.append('c.eps')
+            eps = True
+        elif pname == 'pThreshold' and ptype == 'Zel8u':
+            args.append('c.outByte()')
+            nulls.append('{"pThreshold", -4, -1}')
+            out_value = True
         else:
             fail('%s: parameter "%s %s" has no rule' % (name, ptype, pname))
     if len(steps) != len(ops):
@@ -209,11 +243,14 @@ def image_entry(name, params):
     layout_key = layout + ('I' if inplace else '')
     checks_steps = STEP_CHECKS[family](tsuf, layout_key)
     square = family == 'Transpose' and inplace == 'I'
-    return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %s, %d, %s, %s,\n'
+    op_check = OP_CHECKS.get(family, 'OpCheck::none')
+    crossable = family == 'Threshold_LTValGTVal'
+    return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %s, %d, %s, %s, %s, %s, %s, %s,\n'
             ' [](SweepContext& c) -> int { return %s(%s); }},\n') % (
         name, family, ', '.join(ops), ', '.join(nulls), ', '.join(str(s) for s in steps),
         'true' if checks_steps else 'false', 'true' if rnd else 'false', mask, order,
-        'true' if square else 'false', '"%s"' % layout, name, ', '.join(args))
+        'true' if square else 'false', '"%s"' % layout, op_check, 'true' if eps else 'false',
+        'true' if crossable else 'false', 'true' if out_value else 'false', name, ', '.join(args))
 
 
 def frame_entry(name, ret, kind):

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <cstring>
 #include <iterator>
+#include <limits>
 #include <random>
 #include <string>
 #include <type_traits>
@@ -57,6 +58,11 @@ inline bool hasBorder(const CallEntry& e);
 // or 33 as 3x3 and any other value as 5x5.
 enum class MaskCheck { none, strict, lenient };
 
+// How a member checks its comparison op: not at all; 0 and 4 only, after
+// the other checks (Threshold) or before all of them (Threshold_Val); or an
+// op outside 0..4 succeeds and writes nothing (Compare, CompareC).
+enum class OpCheck { none, thresholdLast, thresholdFirst, silent };
+
 struct CallEntry {
     const char* name;
     const char* family;
@@ -69,6 +75,10 @@ struct CallEntry {
     int orderLength;  // entries of dstOrder, 0 when there is none
     bool squareRoi;   // in-place transposition: square ROIs only
     const char* layout;
+    OpCheck opCheck;
+    bool hasEps;        // a tolerance; below 0 is rejected
+    bool crossable;     // lower and upper thresholds that must not cross
+    bool outValue;      // writes one byte through an output pointer (Otsu)
     int (*call)(SweepContext&);
 };
 
@@ -112,6 +122,9 @@ public:
     int mask = zelMaskCode3x3;
     int flags = 0;
     Zel8u val = 200;
+    int cmpOp = 0;
+    Zel32f eps = 1.f;
+    bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -125,6 +138,10 @@ public:
         mask = zelMaskCode3x3;
         flags = 0;
         val = 200;
+        cmpOp = entry.opCheck == OpCheck::thresholdLast || entry.opCheck == OpCheck::thresholdFirst ? 4 : 1;
+        eps = 1.f;
+        crossThresholds = false;
+        outByte_ = outBefore_ = 0xa5;
         nullOperand_ = nullPlane_ = -100;
         aliasSource_ = aliasTarget_ = -1;
         std::mt19937 rng(g.seed);
@@ -181,6 +198,12 @@ public:
                : rng() % 2 ? zelMaskCode3x3 : zelMaskCode5x5;
         flags = static_cast<int>(rng());
         val = static_cast<Zel8u>(rng());
+        if (entry_->opCheck == OpCheck::thresholdLast || entry_->opCheck == OpCheck::thresholdFirst)
+            cmpOp = rng() % 2 ? zelCompareLess : zelCompareGreater;
+        else
+            cmpOp = static_cast<int>(rng() % 5);
+        static constexpr float kEps[] = {0.f, 0.125f, 1.f, 30.f, 1000.f, 1e30f};
+        eps = kEps[rng() % std::size(kEps)];
         if (entry_->orderLength > 0) {
             const bool fourIn = std::strcmp(entry_->layout, "C4") == 0 || std::strcmp(entry_->layout, "C4C3") == 0;
             // C3C4 entries above 2 fill the channel (3, 8u) or keep it.
@@ -234,6 +257,22 @@ public:
         for (int k = 0; k < 4; ++k) out[k] = element<T>(k);
         return out;
     }
+    // Threshold and value arrays (slot 1: lower thresholds, 2: upper ones,
+    // 3 and 4: their values) and their C1 scalars. Thresholds lie around the
+    // middle of the type's range so that random pixels fall on both sides;
+    // the upper ones are never below the lower ones unless crossThresholds.
+    template <class T>
+    const T* limits(int slot) {
+        if (nullOperand_ == -10 - slot) return nullptr;
+        T* out = reinterpret_cast<T*>(limitStore_[slot]);
+        for (int k = 0; k < 4; ++k) out[k] = limitElement<T>(slot, k);
+        return out;
+    }
+    template <class T>
+    T limit(int slot) const {
+        return limitElement<T>(slot, 0);
+    }
+    Zel8u* outByte() { return nullOperand_ == -4 ? nullptr : &outByte_; }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
     // Breaking one argument.
@@ -252,6 +291,7 @@ public:
         for (auto& b : ops_) b.before = b.planes;
     }
     bool unchanged() const {
+        if (outByte_ != outBefore_) return false;
         for (const auto& b : ops_)
             if (b.planes != b.before) return false;
         return true;
@@ -290,7 +330,7 @@ public:
     }
     // Every byte of every operand, for comparing runs.
     std::vector<std::uint8_t> contents() const {
-        std::vector<std::uint8_t> all;
+        std::vector<std::uint8_t> all{outByte_};
         for (const auto& b : ops_)
             for (const auto& p : b.planes) all.insert(all.end(), p.begin(), p.end());
         return all;
@@ -308,6 +348,9 @@ public:
         s += " constants";
         for (int v : constants_) s += " " + std::to_string(v);
         if (entry_->hasRndMode) s += " rndMode " + std::to_string(rndMode);
+        if (entry_->opCheck != OpCheck::none) s += " cmpOp " + std::to_string(cmpOp);
+        if (entry_->hasEps) s += " eps " + std::to_string(eps);
+        if (crossThresholds) s += " (crossed thresholds)";
         if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
         if (entry_->orderLength > 0) {
             s += " order";
@@ -379,6 +422,19 @@ private:
         else return static_cast<P>(v) != 0 ? static_cast<P>(v) : P(1);
     }
     int constants_[8] = {1, 2, 3, 4, 5, 6, 7, 8};
+    template <class T>
+    T limitElement(int slot, int k) const {
+        if (slot == 3 || slot == 4) return element<T>(slot == 3 ? k : (k + 4) % 8);
+        const bool upper = slot == 2;
+        int offset = (constants_[upper ? k + 4 : k] % 50 + 50) % 50;
+        if (crossThresholds && k == 0) offset = -60;
+        const int signedOffset = upper ? offset : -offset;
+        if constexpr (std::is_floating_point_v<T>) return static_cast<T>(signedOffset) / 8;
+        else if constexpr (std::is_signed_v<T>) return static_cast<T>(signedOffset);
+        else return static_cast<T>(std::numeric_limits<T>::max() / 2 + signedOffset);
+    }
+    alignas(8) std::uint8_t limitStore_[5][32] = {};
+    Zel8u outByte_ = 0xa5, outBefore_ = 0xa5;
     alignas(8) std::uint8_t valueStore_[32] = {};
     std::array<int, 4> order_{};
     int nullOperand_ = -100, nullPlane_ = -100;
