@@ -54,7 +54,7 @@ void registerBorder(const std::string& group, int cvType, int border, int cvBord
 }
 
 void registerAll() {
-    for (int b : {2, 16}) {
+    for (int b : {1, 2, 16}) {
         const std::string suffix = "_b" + std::to_string(b);
         registerBorder("ReplicateBorder_8u_C1" + suffix, CV_8UC1, b, cv::BORDER_REPLICATE, [b](Frame& f, ZeliSize s) {
             zeliCopyReplicateBorder_8u_C1R(f.src.ptr<Zel8u>(), int(f.src.step), s, f.dst.ptr<Zel8u>(), int(f.dst.step),
@@ -67,6 +67,16 @@ void registerAll() {
         registerBorder("ConstBorder_8u_C1" + suffix, CV_8UC1, b, cv::BORDER_CONSTANT, [b](Frame& f, ZeliSize s) {
             zeliCopyConstBorder_8u_C1R(f.src.ptr<Zel8u>(), int(f.src.step), s, f.dst.ptr<Zel8u>(), int(f.dst.step),
                                        f.dstSize(), b, b, 7);
+        });
+        registerBorder("ConstBorder_8u_C3" + suffix, CV_8UC3, b, cv::BORDER_CONSTANT, [b](Frame& f, ZeliSize s) {
+            const Zel8u value[3] = {7, 8, 9};
+            zeliCopyConstBorder_8u_C3R(f.src.ptr<Zel8u>(), int(f.src.step), s, f.dst.ptr<Zel8u>(), int(f.dst.step),
+                                       f.dstSize(), b, b, value);
+        });
+        // The one wrapping member is 32s (OpenCV: BORDER_WRAP on CV_32S).
+        registerBorder("WrapBorder_32s_C1" + suffix, CV_32SC1, b, cv::BORDER_WRAP, [b](Frame& f, ZeliSize s) {
+            zeliCopyWrapBorder_32s_C1R(f.src.ptr<Zel32s>(), int(f.src.step), s, f.dst.ptr<Zel32s>(), int(f.dst.step),
+                                       f.dstSize(), b, b);
         });
     }
 }
