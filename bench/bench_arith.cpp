@@ -10,6 +10,7 @@
 
 namespace {
 
+using zel::bench::registerMemcpy;
 using zel::bench::registerSized;
 
 // Source, second source and destination images of one benchmark.
@@ -25,18 +26,6 @@ struct Operands {
     T* pd() { return d.ptr<T>(); }
     int step() const { return static_cast<int>(a.step); }
 };
-
-// memcpy of `bytes(size)` / 2 bytes: reads and writes as much as the operation.
-void registerMemcpy(const std::string& group, double bytesPerPixel) {
-    registerSized(group, "memcpy", [bytesPerPixel](benchmark::State& state, ZeliSize s) {
-        const std::size_t bytes = std::size_t(bytesPerPixel / 2 * s.width * s.height);
-        std::vector<char> src(bytes, 1), dst(bytes);
-        for (auto _ : state) {
-            std::memcpy(dst.data(), src.data(), bytes);
-            benchmark::ClobberMemory();
-        }
-    });
-}
 
 template <class T, class Zeli, class OpenCv>
 void registerPair(const std::string& group, int cvType, Zeli zeli, OpenCv opencv, int threads = 1) {

@@ -11,6 +11,7 @@
 
 namespace {
 
+using zel::bench::registerMemcpy;
 using zel::bench::registerSized;
 
 struct Images {
@@ -28,19 +29,6 @@ struct Images {
     T* pd() { return d.ptr<T>(); }
     int step() const { return static_cast<int>(a.step); }
 };
-
-// memcpy of bytesPerPixel / 2 bytes a pixel: as much read and written as the
-// operation's own traffic.
-void registerMemcpy(const std::string& group, double bytesPerPixel) {
-    registerSized(group, "memcpy", [bytesPerPixel](benchmark::State& state, ZeliSize s) {
-        const std::size_t bytes = std::size_t(bytesPerPixel / 2 * s.width * s.height);
-        std::vector<char> src(bytes, 1), dst(bytes);
-        for (auto _ : state) {
-            std::memcpy(dst.data(), src.data(), bytes);
-            benchmark::ClobberMemory();
-        }
-    });
-}
 
 template <class F>
 void registerOne(const std::string& group, const std::string& impl, int cvType, F f) {

@@ -6,9 +6,12 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstring>
 #include <functional>
 #include <string>
 #include <vector>
+
+#include <opencv2/core.hpp>
 
 #include "zeli.h"
 
@@ -39,6 +42,44 @@ inline void registerSized(const std::string& group, const std::string& impl,
             ->Unit(benchmark::kMicrosecond)
             ->UseRealTime();
     }
+}
+
+// "_mt" for benchmarks run with more than one thread: the report pairs
+// "<group>" and "<group>_mt" as the single- and multi-threaded figures.
+inline std::string threadSuffix(int threads) { return threads > 1 ? "_mt" : ""; }
+
+// Registers `run(fixture, size)` in the timed loop, the fixture made once per
+// size by `make(size)` outside the timing, with both zeli and OpenCV set to
+// `threads` threads while it runs.
+template <class Make, class Run>
+void registerRun(const std::string& group, const std::string& impl, Make make, Run run, int threads = 1,
+                 const std::vector<ZeliSize>& sizes = standardSizes()) {
+    registerSized(group, impl, [=](benchmark::State& state, ZeliSize size) {
+        auto fixture = make(size);
+        zelSetNumThreads(threads);
+        cv::setNumThreads(threads);
+        for (auto _ : state) {
+            run(fixture, size);
+            benchmark::ClobberMemory();
+        }
+        zelSetNumThreads(1);
+        cv::setNumThreads(1);
+    }, nullptr, sizes);
+}
+
+// A memcpy moving as many bytes as an operation that reads and writes
+// `bytesPerPixel` bytes per pixel in all (half of them copied, half written):
+// the bandwidth bound of a pixelwise operation, reported beside it.
+inline void registerMemcpy(const std::string& group, double bytesPerPixel,
+                           const std::vector<ZeliSize>& sizes = standardSizes()) {
+    registerSized(group, "memcpy", [bytesPerPixel](benchmark::State& state, ZeliSize s) {
+        const std::size_t bytes = std::size_t(bytesPerPixel / 2 * s.width * s.height);
+        std::vector<char> src(bytes, 1), dst(bytes);
+        for (auto _ : state) {
+            std::memcpy(dst.data(), src.data(), bytes);
+            benchmark::ClobberMemory();
+        }
+    }, nullptr, sizes);
 }
 
 // Registers the benchmarks of one source file at start-up.
