@@ -129,7 +129,10 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (float eps : {-1.f, -1e-30f, -INFINITY})
             list.push_back({"eps " + std::to_string(eps), zelStatusNegativeEpsilon,
                             [eps](SweepContext& c) { c.eps = eps; }});
-    if (e.crossable)
+    if (e.crossable && std::string(e.family) == "CountInRange")
+        list.push_back({"upperBound below lowerBound", zelStatusBadRange,
+                        [](SweepContext& c) { c.crossThresholds = true; }});
+    else if (e.crossable)
         list.push_back({"thresholdGT below thresholdLT", zelStatusThresholdsCrossed,
                         [](SweepContext& c) { c.crossThresholds = true; }});
     if (e.orderLength > 0) {
@@ -395,6 +398,30 @@ TEST(ContractSweep, FrameFunctionsKeepTheirContracts) {
             case FrameKind::nan:
                 EXPECT_TRUE(as<bool (*)()>(f)());
                 break;
+            case FrameKind::dotProdCol: {
+                // Row pointers, coefficients and destination: -8 for a null
+                // array, -6 for a count below 1, nothing written; a null
+                // row after the first keeps the rows combined before it.
+                auto dot = as<ZelStatus (*)(const Zel32f* const*, const Zel32f*, int, Zel32f*, int)>(f);
+                const Zel32f r0[3] = {1, 2, 3}, r1[3] = {4, 5, 6}, k[2] = {2, -1};
+                const Zel32f* rows[2] = {r0, r1};
+                const Zel32f* broken[2] = {r0, nullptr};
+                Zel32f out[4] = {9, 9, 9, 9};
+                EXPECT_EQ(dot(nullptr, k, 2, out, 3), zelStatusNullPtr);
+                EXPECT_EQ(dot(rows, nullptr, 2, out, 3), zelStatusNullPtr);
+                EXPECT_EQ(dot(rows, k, 2, nullptr, 3), zelStatusNullPtr);
+                EXPECT_EQ(dot(rows, k, 0, out, 3), zelStatusBadSize);
+                EXPECT_EQ(dot(rows, k, 2, out, -1), zelStatusBadSize);
+                for (Zel32f v : out) EXPECT_EQ(v, 9.f);
+                EXPECT_EQ(dot(rows, k, 2, out, 3), zelStatusOk);
+                EXPECT_EQ(out[0], -2.f);
+                EXPECT_EQ(out[2], 0.f);
+                EXPECT_EQ(out[3], 9.f);
+                EXPECT_EQ(dot(broken, k, 2, out, 3), zelStatusNullPtr);
+                EXPECT_EQ(out[1], 4.f);
+                gCalls += 7;
+                break;
+            }
         }
     }
 }
