@@ -428,6 +428,14 @@ TEST(ContractSweep, FrameFunctionsKeepTheirContracts) {
 
 // ---- Random argument sets -----------------------------------------------
 
+// Results that depend on the order of the rows, which an upward walk
+// reverses: positions of the first extreme, 32f sums (rounded row by row).
+bool rowOrderMatters(const CallEntry& e) {
+    const std::string family = e.family, name = e.name;
+    return family == "MinIndx" || family == "MaxIndx" ||
+           ((family == "Sum" || family == "Mean") && name.find("_32f_") != std::string::npos);
+}
+
 TEST(ContractSweep, RandomArgumentSets) {
     const char* secondsText = std::getenv("ZELI_SWEEP_SECONDS");
     const char* seedText = std::getenv("ZELI_SWEEP_SEED");
@@ -460,7 +468,8 @@ TEST(ContractSweep, RandomArgumentSets) {
         g.offsetElements = std::uniform_int_distribution<int>(0, 31)(rng);
         g.tight = rng() % 4 == 0;
         // Families that trust their steps walk a negative step upwards.
-        const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && rng() % 3 == 0;
+        const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && !rowOrderMatters(e) &&
+                            rng() % 3 == 0;
         g.seed = static_cast<std::uint32_t>(rng());
         const int threads = std::uniform_int_distribution<int>(1, 4)(rng);
         const std::int64_t target = targets[std::uniform_int_distribution<std::size_t>(0, targets.size() - 1)(rng)];
