@@ -18,8 +18,10 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
+#include "core/image.h"
 #include "stats/channels-inl.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -79,43 +81,82 @@ void SumRowInt(const T* HWY_RESTRICT row, std::ptrdiff_t pixels, int computed, T
         for (int c = 0; c < computed; ++c) total[c] += static_cast<T>(row[x * C + c] ^ flip);
 }
 
-// The fast 32f rule for one row: element k of the row (k counts channels,
-// n of them) goes to lane (address / 4) mod 4; a period of P elements
-// (4, or 12 for C3) holds every (channel, lane) pair once, and slot s of
-// the period accumulates its elements in order. Each channel's row sum is
-// its slots added in slot order, in single precision; it is then added to
-// total[] in double.
+// The fast 32f rule: element k of a row (k counts channels, n of them)
+// goes to lane (address / 4) mod 4; a period of P elements (4, or 12 for
+// C3) holds every (channel, lane) pair once, and slot s of the period
+// accumulates its elements in order. Each channel's row sum is its lanes
+// added in lane order, in single precision; row sums are added to total[]
+// in double, in row order. A lane is one chain of dependent additions, so
+// several rows are worked side by side to keep the adder busy; each row's
+// bits are those of the row alone.
 template <int C>
-void SumRow32f(const float* HWY_RESTRICT row, std::ptrdiff_t pixels, int computed,
-               double* HWY_RESTRICT total) {
-    constexpr std::ptrdiff_t P = C == 3 ? 12 : 4;
+void SumRows32f(const float* HWY_RESTRICT base, int step, std::ptrdiff_t rows, std::ptrdiff_t pixels, int computed,
+                double* HWY_RESTRICT total) {
+    constexpr std::ptrdiff_t P = C == 3 ? 12 : 4, V = P / 4;
+    // Rows worked side by side: eight chains of one vector, or four of three.
+    constexpr std::ptrdiff_t G = C == 3 ? 4 : 8;
     const hn::Full128<float> d4;
+    using VF = decltype(hn::Zero(d4));
     const std::ptrdiff_t n = pixels * C;
-    const std::ptrdiff_t a = static_cast<std::ptrdiff_t>((reinterpret_cast<std::uintptr_t>(row) >> 2) & 3);
-    const std::ptrdiff_t h = std::min<std::ptrdiff_t>(n, (4 - a) & 3);
     // The last pixel of an AC4 row is added without its alpha.
     const std::ptrdiff_t body = computed < C ? n - C : n;
-    HWY_ALIGN float slot[P] = {};
     auto skip = [&](std::ptrdiff_t k) { return computed < C && k % C == C - 1; };
-    std::ptrdiff_t k = 0;
-    for (; k < h; ++k)
-        if (!skip(k)) slot[k - h + P] += row[k];
-    if (body - k >= P) {
-        decltype(hn::Zero(d4)) acc[P / 4];
-        for (std::ptrdiff_t j = 0; j < P / 4; ++j) acc[j] = hn::Load(d4, slot + 4 * j);
-        for (; body - k >= P; k += P)
-            for (std::ptrdiff_t j = 0; j < P / 4; ++j) acc[j] = hn::Add(acc[j], hn::LoadU(d4, row + k + 4 * j));
-        for (std::ptrdiff_t j = 0; j < P / 4; ++j) hn::Store(acc[j], d4, slot + 4 * j);
-    }
-    for (; k < n; ++k)
-        if (!skip(k)) slot[(k - h) % P] += row[k];
-    for (int c = 0; c < computed; ++c) {
-        // Slot s holds channel (h + s) mod C in lane (s + h + a) mod 4; a
-        // channel's lanes are added in lane order (lanes it does not reach
-        // are +0, as untouched slots are: no slot can hold -0).
-        float lane[4] = {0.f, 0.f, 0.f, 0.f};
-        for (std::ptrdiff_t s = ((c - h) % C + C) % C; s < P; s += C) lane[(s + h + a) % 4] = slot[s];
-        total[c] += static_cast<double>(((lane[0] + lane[1]) + lane[2]) + lane[3]);
+    for (std::ptrdiff_t r0 = 0; r0 < rows; r0 += G) {
+        const std::ptrdiff_t g = std::min<std::ptrdiff_t>(G, rows - r0);
+        const float* row[G];
+        std::ptrdiff_t a[G], h[G], k[G];
+        HWY_ALIGN float slot[G][P] = {};
+        for (std::ptrdiff_t i = 0; i < g; ++i) {
+            row[i] = rowAt(base, step, r0 + i);
+            a[i] = static_cast<std::ptrdiff_t>((reinterpret_cast<std::uintptr_t>(row[i]) >> 2) & 3);
+            h[i] = std::min<std::ptrdiff_t>(n, (4 - a[i]) & 3);
+            for (k[i] = 0; k[i] < h[i]; ++k[i])
+                if (!skip(k[i])) slot[i][k[i] - h[i] + P] += row[i][k[i]];
+        }
+        // Whole periods: the G rows together as far as all have them,
+        // then each row alone.
+        auto periods = [&](std::ptrdiff_t i) { return body - k[i] >= P ? (body - k[i]) / P : 0; };
+        std::ptrdiff_t together = 0;
+        if (g == G) {
+            together = periods(0);
+            for (std::ptrdiff_t i = 1; i < G; ++i) together = std::min(together, periods(i));
+        }
+        if (together > 0) {
+            VF acc[G][V];
+            const float* p[G];
+            for (int i = 0; i < G; ++i) {
+                p[i] = row[i] + k[i];
+                for (std::ptrdiff_t j = 0; j < V; ++j) acc[i][j] = hn::Load(d4, slot[i] + 4 * j);
+            }
+            for (std::ptrdiff_t t = 0; t < together; ++t)
+                for (int i = 0; i < G; ++i) {
+                    for (std::ptrdiff_t j = 0; j < V; ++j) acc[i][j] = hn::Add(acc[i][j], hn::LoadU(d4, p[i] + 4 * j));
+                    p[i] += P;
+                }
+            for (int i = 0; i < G; ++i) {
+                for (std::ptrdiff_t j = 0; j < V; ++j) hn::Store(acc[i][j], d4, slot[i] + 4 * j);
+                k[i] += together * P;
+            }
+        }
+        for (std::ptrdiff_t i = 0; i < g; ++i) {
+            if (periods(i) > 0) {
+                VF acc[V];
+                for (std::ptrdiff_t j = 0; j < V; ++j) acc[j] = hn::Load(d4, slot[i] + 4 * j);
+                for (; body - k[i] >= P; k[i] += P)
+                    for (std::ptrdiff_t j = 0; j < V; ++j) acc[j] = hn::Add(acc[j], hn::LoadU(d4, row[i] + k[i] + 4 * j));
+                for (std::ptrdiff_t j = 0; j < V; ++j) hn::Store(acc[j], d4, slot[i] + 4 * j);
+            }
+            for (; k[i] < n; ++k[i])
+                if (!skip(k[i])) slot[i][(k[i] - h[i]) % P] += row[i][k[i]];
+            for (int c = 0; c < computed; ++c) {
+                // Slot s holds channel (h + s) mod C in lane (s + h + a) mod 4;
+                // lanes a channel does not reach stay +0, as untouched slots
+                // do (no slot can hold -0).
+                float lane[4] = {0.f, 0.f, 0.f, 0.f};
+                for (std::ptrdiff_t s = ((c - h[i]) % C + C) % C; s < P; s += C) lane[(s + h[i] + a[i]) % 4] = slot[i][s];
+                total[c] += static_cast<double>(((lane[0] + lane[1]) + lane[2]) + lane[3]);
+            }
+        }
     }
 }
 
@@ -205,10 +246,16 @@ ZelStatus sum32f(const Zel32f* pSrc, int srcStep, ZeliSize roi, Zel64f* pSum, Ze
         if (ok)
             for (int c = 0; c < kComputed<L>; ++c) total.v[c] = total.v[C + c] + total.v[c];
     } else {
-        const auto kernel = ZEL_DISPATCH(SumRow32f<C>);
+        // The kernel takes a slot's rows at once, at its first row.
+        const auto kernel = ZEL_DISPATCH(SumRows32f<C>);
         ok = reduceRows(
             roi.height, team, total,
-            [&](Slot& s, std::ptrdiff_t y) { kernel(rowAt(pSrc, srcStep, y), roi.width, kComputed<L>, s.v); }, add);
+            [&](Slot& s, std::ptrdiff_t y) {
+                if (y % kRowsPerSlot != 0) return;
+                const std::ptrdiff_t rows = std::min<std::ptrdiff_t>(kRowsPerSlot, roi.height - y);
+                kernel(rowAt(pSrc, srcStep, y), srcStep, rows, roi.width, kComputed<L>, s.v);
+            },
+            add);
     }
     if (!ok) return zelStatusNoMemory;
     for (int c = 0; c < kComputed<L>; ++c) pSum[c] = total.v[c];
