@@ -74,36 +74,26 @@ TYPED_TEST(CountTest, InclusiveBoundsPerChannel) {
             }
 }
 
+// Pointers, then the step before the size, then crossed bounds in any
+// channel; nothing written on failure.
 TYPED_TEST(CountTest, ChecksPointersStepSizeThenBounds) {
     using T = TypeParam;
     for (const auto& m : countMembers<T>()) {
         SCOPED_TRACE(m.name);
         Image<T> img({6, 4}, m.channels);
         int n[3] = {9, 9, 9};
-        const T lo[3] = {T(1), T(2), T(3)}, hi[3] = {T(5), T(5), T(5)};
-        const T crossedLast[3] = {T(5), T(5), T(2)};  // upper below lower in the last channel
-        const T* s = img.roi();
-        const int st = img.step();
-        const ZeliSize r = img.size();
-        std::vector<std::pair<int, std::function<ZelStatus()>>> cases = {
-            {zelStatusNullPtr, [&] { return m.fn(nullptr, 0, {0, 0}, n, lo, hi); }},
-            {zelStatusNullPtr, [&] { return m.fn(s, st, r, nullptr, lo, hi); }},
-            {zelStatusBadStep, [&] { return m.fn(s, 0, {0, 0}, n, lo, lo); }},
-            {zelStatusBadStep, [&] { return m.fn(s, -st, r, n, hi, lo); }},
-            {zelStatusBadSize, [&] { return m.fn(s, st, {0, 4}, n, hi, lo); }},
-            {zelStatusBadSize, [&] { return m.fn(s, st, {6, -1}, n, lo, hi); }},
-            {zelStatusBadRange, [&] { return m.fn(s, st, r, n, hi, lo); }},
-        };
+        const T lo[3] = {T(1), T(2), T(3)}, hi[3] = {T(5), T(5), T(5)}, crossedLast[3] = {T(5), T(5), T(2)};
+        const T *s = img.roi(), *upper = m.computed == 3 ? crossedLast : lo;
+        EXPECT_EQ(m.fn(nullptr, 0, {0, 0}, n, hi, lo), zelStatusNullPtr);
+        EXPECT_EQ(m.fn(s, img.step(), img.size(), nullptr, lo, hi), zelStatusNullPtr);
+        EXPECT_EQ(m.fn(s, 0, {0, 0}, n, hi, lo), zelStatusBadStep);
+        EXPECT_EQ(m.fn(s, -img.step(), img.size(), n, lo, hi), zelStatusBadStep);
+        EXPECT_EQ(m.fn(s, img.step(), {6, 0}, n, hi, lo), zelStatusBadSize);
+        EXPECT_EQ(m.fn(s, img.step(), img.size(), n, hi, upper), zelStatusBadRange);
         if (m.computed == 3) {
-            cases.push_back({zelStatusNullPtr, [&] { return m.fn(s, st, r, n, nullptr, hi); }});
-            cases.push_back({zelStatusNullPtr, [&] { return m.fn(s, 0, r, n, lo, nullptr); }});
-            cases.push_back({zelStatusBadRange, [&] { return m.fn(s, st, r, n, lo, crossedLast); }});
+            EXPECT_EQ(m.fn(s, 0, img.size(), n, lo, nullptr), zelStatusNullPtr);
         }
-        for (const auto& [want, call] : cases) {
-            EXPECT_EQ(call(), want);
-            EXPECT_EQ(n[0], 9);
-            EXPECT_EQ(n[2], 9);
-        }
+        EXPECT_TRUE(n[0] == 9 && n[1] == 9 && n[2] == 9);
     }
 }
 
@@ -189,10 +179,8 @@ TYPED_TEST(EveryTest, ChecksPointersSizeThenSteps) {
         Image<T> src({5, 3}, m.channels), dst({5, 3}, m.channels);
         for (auto fn : {m.min, m.max}) {
             const std::vector<Rejection> cases = {
-                {"null src", zelStatusNullPtr, [&] { return fn(nullptr, src.step(), dst.roi(), dst.step(), {0, 0}); }},
-                {"null dst", zelStatusNullPtr, [&] { return fn(src.roi(), 0, nullptr, dst.step(), {5, 3}); }},
+                {"null src", zelStatusNullPtr, [&] { return fn(nullptr, src.step(), dst.roi(), 0, {0, 0}); }},
                 {"size before step", zelStatusBadSize, [&] { return fn(src.roi(), 0, dst.roi(), 0, {5, 0}); }},
-                {"width -1", zelStatusBadSize, [&] { return fn(src.roi(), src.step(), dst.roi(), dst.step(), {-1, 3}); }},
                 {"src step 0", zelStatusBadStep, [&] { return fn(src.roi(), 0, dst.roi(), dst.step(), {5, 3}); }},
                 {"dst step negative", zelStatusBadStep, [&] { return fn(src.roi(), src.step(), dst.roi(), -dst.step(), {5, 3}); }},
             };
