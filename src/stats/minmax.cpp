@@ -31,9 +31,14 @@ ZelStatus extremes(const T* pSrc, int srcStep, ZeliSize roi, T* pMin, T* pMax) {
         K mx[4] = {kNoMax<T>, kNoMax<T>, kNoMax<T>, kNoMax<T>};
     } total;
     const int team = reductionTeam(roi.height, std::int64_t{roi.width} * C * sizeof(T));
+    // The kernel takes a slot's rows at once, at its first row.
     const bool ok = reduceRows(
         roi.height, team, total,
-        [&](Slot& s, std::ptrdiff_t y) { kernel(rowAt(pSrc, srcStep, y), roi.width, kComputed<L>, s.mn, s.mx); },
+        [&](Slot& s, std::ptrdiff_t y) {
+            if (y % kRowsPerSlot != 0) return;
+            const std::ptrdiff_t rows = std::min<std::ptrdiff_t>(kRowsPerSlot, roi.height - y);
+            kernel(rowAt(pSrc, srcStep, y), srcStep, rows, roi.width, kComputed<L>, s.mn, s.mx);
+        },
         [](Slot& t, const Slot& s) {
             for (int c = 0; c < 4; ++c) {
                 t.mn[c] = std::min(t.mn[c], s.mn[c]);

@@ -55,7 +55,7 @@ ZelStatus extremeIndex(const T* pSrc, int srcStep, ZeliSize roi, T* pValue, int*
             if (s.done || block > firstDone.load(std::memory_order_relaxed)) return;
             K mn[4] = {kNoMin<T>, kNoMin<T>, kNoMin<T>, kNoMin<T>};
             K mx[4] = {kNoMax<T>, kNoMax<T>, kNoMax<T>, kNoMax<T>};
-            kernel(rowAt(pSrc, srcStep, y), roi.width, N, mn, mx);
+            kernel(rowAt(pSrc, srcStep, y), srcStep, 1, roi.width, N, mn, mx);
             bool all = true;
             for (int c = 0; c < N; ++c) {
                 const K v = kMax ? mx[c] : mn[c];
