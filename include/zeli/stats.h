@@ -16,17 +16,20 @@ extern "C" {
 /* Sum: the sum of each channel over the ROI (one value for C1, three for C3
    and AC4, four for C4). Integer sums are exact (64-bit integer totals)
    and returned as doubles. The 32f members follow the accuracy hint, which
-   is never checked: zelAccuracyHigh (2) adds each channel in two running
-   double totals, one for the even columns and one for the odd ones, and
-   returns odd + even; any other value adds each row in single precision,
-   the element at address p going to lane (p / 4) mod 4 of four running
-   sums of its channel (so the lanes follow the 16-byte alignment of the
-   row, on every processor; each starts at +0), adds each channel's four
-   lanes in lane order, ((l0 + l1) + l2) + l3, and accumulates these row
-   sums in double. Both hints keep one set of double
-   totals per block of 16 rows and add the blocks in order, so the result
-   never depends on the thread count or the SIMD target. NaN and infinities
-   propagate as in ordinary addition.
+   is never checked. zelAccuracyHigh (2) adds each channel in two running
+   double totals, one for the even columns and one for the odd ones, in
+   row-major order, and returns odd + even. Any other value adds each row
+   in single precision, the element at address p going to lane
+   (p / 4) mod 4 of four running sums of its channel (each starting at +0;
+   the lanes follow the 16-byte alignment of the row on every processor),
+   adds each channel's lanes as ((l0 + l1) + l2) + l3 and accumulates these
+   row sums in double. Both rules restart their double totals for every
+   block of 16 rows and add the blocks' totals in order, so the result
+   never depends on the thread count or the SIMD target; it does depend on
+   the row order, so a negative step may change the last bits. NaN and
+   infinities propagate as in ordinary addition. The fast rule is the
+   quicker one; the accurate one is one chain of double additions per
+   channel and column parity, and about half as fast as a plain read.
    Checks: null pSrc or pSum zelStatusNullPtr, then a ROI width or height
    below 1 zelStatusBadSize. The step is not checked: a step of 0 or a
    negative step walks the rows it describes. */
