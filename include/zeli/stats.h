@@ -27,9 +27,9 @@ extern "C" {
    block of 16 rows and add the blocks' totals in order, so the result
    never depends on the thread count or the SIMD target; it does depend on
    the row order, so a negative step may change the last bits. NaN and
-   infinities propagate as in ordinary addition. The fast rule is the
-   quicker one; the accurate one is one chain of double additions per
-   channel and column parity, and about half as fast as a plain read.
+   infinities propagate as in ordinary addition. The accurate rule is one
+   chain of double additions per channel and column parity, several times
+   slower than a read of the image; the fast rule runs at memory speed.
    Checks: null pSrc or pSum zelStatusNullPtr, then a ROI width or height
    below 1 zelStatusBadSize. The step is not checked: a step of 0 or a
    negative step walks the rows it describes. */
