@@ -189,6 +189,9 @@ HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 
+#include <immintrin.h>
+
+#include <atomic>
 #include <limits>
 #include <type_traits>
 
@@ -359,6 +362,39 @@ void overImage(const S* src, int srcStep, std::ptrdiff_t srcPixelBytes, D* dst, 
     });
 }
 
+// AVX-512 VBMI looks up a 128-entry byte table in one instruction, so a
+// 256-entry table is two look-ups and a blend on the high bit. The build's
+// AVX-512 target does not assume VBMI: this kernel is taken where that
+// target is chosen and the processor has it.
+__attribute__((target("avx512f,avx512bw,avx512vbmi"))) void lookup256Vbmi(
+    const std::uint8_t* src, std::ptrdiff_t srcStep, std::uint8_t* dst, std::ptrdiff_t dstStep, std::ptrdiff_t n,
+    std::ptrdiff_t rows, const std::uint8_t* map) {
+    const __m512i t0 = _mm512_loadu_si512(map), t1 = _mm512_loadu_si512(map + 64);
+    const __m512i t2 = _mm512_loadu_si512(map + 128), t3 = _mm512_loadu_si512(map + 192);
+    for (std::ptrdiff_t y = 0; y < rows; ++y) {
+        const std::uint8_t* s = byteOffset(src, srcStep * y);
+        std::uint8_t* o = byteOffset(dst, dstStep * y);
+        for (std::ptrdiff_t x = 0; x < n; x += 64) {
+            // The row's last bytes under a mask: nothing after them is touched.
+            const __mmask64 m = n - x >= 64 ? ~__mmask64{0} : ~__mmask64{0} >> (64 - (n - x));
+            const __m512i v = _mm512_maskz_loadu_epi8(m, s + x);
+            const __m512i low = _mm512_permutex2var_epi8(t0, v, t1), high = _mm512_permutex2var_epi8(t2, v, t3);
+            _mm512_mask_storeu_epi8(o + x, m, _mm512_mask_blend_epi8(_mm512_movepi8_mask(v), low, high));
+        }
+    }
+}
+
+std::atomic<bool> gVbmiAllowed{true};
+
+bool vbmiChosen() {
+    static const bool present = __builtin_cpu_supports("avx512vbmi");
+    return present && gVbmiAllowed.load(std::memory_order_relaxed) && simd::chosenIndex() == simd::avx3Index();
+}
+
+// Tests: false keeps the VBMI kernel out, so the AVX-512 target's shuffle
+// kernel runs too.
+void useVbmiForTests(bool use) { gVbmiAllowed = use; }
+
 // Applies K 256-entry tables to an 8-bit image of layout L. One table for
 // every element (C1, or C3 and C4 whose channels share a table) takes the
 // shuffle kernels; otherwise a scalar look-up per element.
@@ -371,9 +407,11 @@ void apply8u(const Zel8u* src, int srcStep, Zel8u* dst, int dstStep, ZeliSize ro
         bool periodic = true;
         for (int i = 16; i < 256 && periodic; ++i) periodic = maps[0][i] == maps[0][i & 15];
         auto kernel = periodic ? ZEL_DISPATCH(Lookup16Rows) : ZEL_DISPATCH(Lookup256Rows);
+        const bool vbmi = !periodic && vbmiChosen();
+        if (vbmi) kernel = &lookup256Vbmi;
         const Zel8u* map = maps[0];
         overImage(src, srcStep, 1, dst, dstStep, 1, std::ptrdiff_t{roi.width} * C, roi.height,
-                  periodic ? kCostMove : kCostWiden,
+                  periodic || vbmi ? kCostMove : kCostWiden,
                   [&](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, std::ptrdiff_t rows) {
                       kernel(s, srcStep, d, dstStep, n, rows, map);
                   });
