@@ -7,8 +7,10 @@
 // the layout allows one table for every element (C1, or C3 and C4 whose
 // channels share a curve): sixteen 16-entry shuffles on the low nibble,
 // merged by the high nibble's bits; a table that repeats every 16 entries
-// (a palette of at most 4 bits) is one shuffle. Other layouts, the 16-bit
-// tables and the palettes of other entry widths are scalar look-ups.
+// (a palette of at most 4 bits) is one shuffle. On processors with AVX-512
+// VBMI every 8-bit table, per-channel ones included, is two 128-entry
+// permutes and a blend. Other layouts, the 16-bit tables and the palettes of
+// other entry widths are scalar look-ups.
 //
 // 32f images search the intervals of each value from the first upward; the
 // vector kernel tests a whole vector against every interval in turn and
@@ -364,22 +366,48 @@ void overImage(const S* src, int srcStep, std::ptrdiff_t srcPixelBytes, D* dst, 
 
 // AVX-512 VBMI looks up a 128-entry byte table in one instruction, so a
 // 256-entry table is two look-ups and a blend on the high bit. The build's
-// AVX-512 target does not assume VBMI: this kernel is taken where that
+// AVX-512 target does not assume VBMI: these kernels are taken where that
 // target is chosen and the processor has it.
-__attribute__((target("avx512f,avx512bw,avx512vbmi"))) void lookup256Vbmi(
-    const std::uint8_t* src, std::ptrdiff_t srcStep, std::uint8_t* dst, std::ptrdiff_t dstStep, std::ptrdiff_t n,
-    std::ptrdiff_t rows, const std::uint8_t* map) {
-    const __m512i t0 = _mm512_loadu_si512(map), t1 = _mm512_loadu_si512(map + 64);
-    const __m512i t2 = _mm512_loadu_si512(map + 128), t3 = _mm512_loadu_si512(map + 192);
+#define ZEL_VBMI __attribute__((target("avx512f,avx512bw,avx512vbmi")))
+
+struct VbmiTable {
+    __m512i quarter[4];
+};
+
+ZEL_VBMI inline __m512i lookupVbmi(const VbmiTable& t, __m512i v, __mmask64 high) {
+    return _mm512_mask_blend_epi8(high, _mm512_permutex2var_epi8(t.quarter[0], v, t.quarter[1]),
+                                  _mm512_permutex2var_epi8(t.quarter[2], v, t.quarter[3]));
+}
+
+// `rows` rows of n elements, pixels of C channels of which the first K
+// take tables maps[0..K-1] (the others are neither read nor written). Rows
+// start on a pixel; the last bytes of a row go under a mask, so nothing
+// after them is touched.
+ZEL_VBMI void lookupVbmi(const std::uint8_t* src, std::ptrdiff_t srcStep, std::uint8_t* dst, std::ptrdiff_t dstStep,
+                         std::ptrdiff_t n, std::ptrdiff_t rows, const std::uint8_t (*maps)[256], int C, int K) {
+    VbmiTable t[4];
+    for (int c = 0; c < K; ++c)
+        for (int q = 0; q < 4; ++q) t[c].quarter[q] = _mm512_loadu_si512(maps[c] + 64 * q);
+    // Lanes of channel c, and the lanes written, for a vector that starts at
+    // channel `phase` of a pixel.
+    __mmask64 channel[4][4] = {}, written[4] = {};
+    for (int phase = 0; phase < C; ++phase)
+        for (int i = 0; i < 64; ++i) {
+            const int c = (phase + i) % C;
+            channel[phase][c] |= __mmask64{1} << i;
+            if (c < K) written[phase] |= __mmask64{1} << i;
+        }
     for (std::ptrdiff_t y = 0; y < rows; ++y) {
         const std::uint8_t* s = byteOffset(src, srcStep * y);
         std::uint8_t* o = byteOffset(dst, dstStep * y);
-        for (std::ptrdiff_t x = 0; x < n; x += 64) {
-            // The row's last bytes under a mask: nothing after them is touched.
-            const __mmask64 m = n - x >= 64 ? ~__mmask64{0} : ~__mmask64{0} >> (64 - (n - x));
+        int phase = 0;
+        for (std::ptrdiff_t x = 0; x < n; x += 64, phase = (phase + 64) % C) {
+            const __mmask64 m = (n - x >= 64 ? ~__mmask64{0} : ~__mmask64{0} >> (64 - (n - x))) & written[phase];
             const __m512i v = _mm512_maskz_loadu_epi8(m, s + x);
-            const __m512i low = _mm512_permutex2var_epi8(t0, v, t1), high = _mm512_permutex2var_epi8(t2, v, t3);
-            _mm512_mask_storeu_epi8(o + x, m, _mm512_mask_blend_epi8(_mm512_movepi8_mask(v), low, high));
+            const __mmask64 high = _mm512_movepi8_mask(v);
+            __m512i r = lookupVbmi(t[0], v, high);
+            for (int c = 1; c < K; ++c) r = _mm512_mask_blend_epi8(channel[phase][c], r, lookupVbmi(t[c], v, high));
+            _mm512_mask_storeu_epi8(o + x, m, r);
         }
     }
 }
@@ -397,7 +425,8 @@ void useVbmiForTests(bool use) { gVbmiAllowed = use; }
 
 // Applies K 256-entry tables to an 8-bit image of layout L. One table for
 // every element (C1, or C3 and C4 whose channels share a table) takes the
-// shuffle kernels; otherwise a scalar look-up per element.
+// shuffle kernels; per-channel tables a scalar look-up per element. With
+// AVX-512 VBMI both take the VBMI kernel.
 template <Layout L>
 void apply8u(const Zel8u* src, int srcStep, Zel8u* dst, int dstStep, ZeliSize roi, const Zel8u (*maps)[256]) {
     constexpr int C = kChannels<L>, K = kComputed<L>;
@@ -406,14 +435,25 @@ void apply8u(const Zel8u* src, int srcStep, Zel8u* dst, int dstStep, ZeliSize ro
     if (shared) {
         bool periodic = true;
         for (int i = 16; i < 256 && periodic; ++i) periodic = maps[0][i] == maps[0][i & 15];
+        if (!periodic && vbmiChosen()) {
+            overImage(src, srcStep, 1, dst, dstStep, 1, std::ptrdiff_t{roi.width} * C, roi.height, kCostMove,
+                      [&](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, std::ptrdiff_t rows) {
+                          lookupVbmi(s, srcStep, d, dstStep, n, rows, maps, 1, 1);
+                      });
+            return;
+        }
         auto kernel = periodic ? ZEL_DISPATCH(Lookup16Rows) : ZEL_DISPATCH(Lookup256Rows);
-        const bool vbmi = !periodic && vbmiChosen();
-        if (vbmi) kernel = &lookup256Vbmi;
         const Zel8u* map = maps[0];
         overImage(src, srcStep, 1, dst, dstStep, 1, std::ptrdiff_t{roi.width} * C, roi.height,
-                  periodic || vbmi ? kCostMove : kCostWiden,
-                  [&](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, std::ptrdiff_t rows) {
+                  periodic ? kCostMove : kCostWiden, [&](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, std::ptrdiff_t rows) {
                       kernel(s, srcStep, d, dstStep, n, rows, map);
+                  });
+        return;
+    }
+    if (vbmiChosen()) {
+        overImage(src, srcStep, C, dst, dstStep, C, roi.width, roi.height, kCostMove,
+                  [&](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, std::ptrdiff_t rows) {
+                      lookupVbmi(s, srcStep, d, dstStep, n * C, rows, maps, C, K);
                   });
         return;
     }
