@@ -269,7 +269,8 @@ bool acceptsSourceOnDestination(const CallEntry& e) {
                                                      "MulCScale", "Div", "Div_Round", "DivC", "Copy",
                                                      "CopyManaged", "SwapChannels", "Threshold", "Threshold_LT",
                                                      "Threshold_GT", "Threshold_Val", "Threshold_LTVal",
-                                                     "Threshold_GTVal", "Threshold_LTValGTVal"};
+                                                     "Threshold_GTVal", "Threshold_LTValGTVal", "LUT",
+                                                     "LUT_Linear", "LUT_Cubic"};
     return pixelwise.count(e.family) > 0;
 }
 
