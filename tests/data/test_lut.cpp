@@ -539,7 +539,7 @@ void expectPalette(const PaletteMember& m, ZeliSize roi, int bits, int alpha, bo
     SCOPED_TRACE(m.name + " bits " + std::to_string(bits) + " alpha " + std::to_string(alpha) + " " +
                  std::to_string(roi.width) + "x" + std::to_string(roi.height) + (upward ? " upward" : ""));
     Bytes src(roi, m.srcBytes * m.srcChannels, roi.width * 31 + bits, m.srcBytes);
-    Bytes dst(roi, m.entryBytes * m.dstStride, roi.height * 7 + bits, 3);
+    Bytes dst(roi, m.entryBytes * m.dstStride, roi.height * 7 + bits, m.entryBytes == 3 ? 1 : m.entryBytes);
     std::vector<std::vector<std::uint8_t>> tables(3);
     std::mt19937 rng(bits * 13 + m.entryBytes);
     for (auto& t : tables) {
