@@ -250,6 +250,30 @@ int main(int argc, char** argv) {
         save("clipped.png", clipped, clippedStep, size, 3);
         zeliFree(clipped);
     }
+    /* Look-up tables: an S-shaped tone curve through five points (shadows
+       darker, highlights brighter), the same for the three channels, and a
+       warmer one that lifts red and lowers blue. */
+    {
+        static const Zel32s levels[5] = {0, 64, 128, 192, 256};
+        static const Zel32s contrast[5] = {0, 40, 128, 216, 255};
+        static const Zel32s red[5] = {0, 80, 160, 230, 255};
+        static const Zel32s blue[5] = {0, 40, 100, 170, 255};
+        const Zel32s* sameValues[3] = {contrast, contrast, contrast};
+        const Zel32s* warmValues[3] = {red, contrast, blue};
+        const Zel32s* sameLevels[3] = {levels, levels, levels};
+        const int counts[3] = {5, 5, 5};
+        int tonedStep;
+        Zel8u* toned = zeliMalloc_8u_C3(size.width, size.height, &tonedStep);
+        if (!toned) return 1;
+        STEP("LUT_Cubic_8u_C3R: S-shaped tone curve",
+             zeliLUT_Cubic_8u_C3R(rgb, rgbStep, toned, tonedStep, size, sameValues, sameLevels, counts));
+        save("tone_curve.png", toned, tonedStep, size, 3);
+        STEP("LUT_Cubic_8u_C3IR: warmer, in place",
+             zeliLUT_Cubic_8u_C3IR(toned, tonedStep, size, warmValues, sameLevels, counts));
+        save("tone_warm.png", toned, tonedStep, size, 3);
+        zeliFree(toned);
+    }
+
     zeliFree(brighter);
     zeliFree(cut);
     zeliFree(edges);

@@ -31,7 +31,8 @@
  *   where one image is both source and destination, and a source passed
  *   with the destination's own pointer and step to a pixelwise member whose
  *   source and destination have the same type and layout (the arithmetic
- *   families, Copy, SwapChannels within one layout and the thresholds):
+ *   families, Copy, SwapChannels within one layout, the thresholds and
+ *   LUT, LUT_Linear and LUT_Cubic):
  *   that call equals
  *   the in-place form. Transpose states its own rule. Any other overlap of
  *   a source with a destination, such as a destination one element after

@@ -346,6 +346,198 @@ ZELAPI ZelStatus zeliCopyReplicateBorder_32s_AC4IR(Zel32s* pSrcDst, int srcDstSt
 ZELAPI ZelStatus zeliCopyWrapBorder_32s_C1R(const Zel32s* pSrc, int srcStep, ZeliSize srcRoiSize, Zel32s* pDst, int dstStep, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 ZELAPI ZelStatus zeliCopyWrapBorder_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize srcRoiSize, ZeliSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 
+/* ==== Look-up tables ===================================================== */
+/* LUT, LUT_Linear and LUT_Cubic remap every channel value through a curve
+   given by nLevels pairs (pLevels[k], pValues[k]); levels and values are
+   Zel32s for 8u, 16u and 16s images and Zel32f for 32f ones. C1 members take
+   the two arrays and the count; C3, C4 and AC4 members take one array and
+   one count per computed channel (AC4: three; alpha is neither read nor
+   written). Interval k covers pLevels[k] <= x < pLevels[k+1]; a value below
+   pLevels[0] or at or above pLevels[nLevels-1] is never changed.
+   IR members work in place and check as their R members.
+
+   Checks, in order: a null image pointer, curve array or (for C3, C4 and
+   AC4) per-channel pointer or count array zelStatusNullPtr; ROI width or
+   height below 1 zelStatusBadSize; a step below 1 zelStatusBadStep; a
+   channel's nLevels below 2 zelStatusBadLUTLevels; then zelStatusNoMemory
+   when a work table cannot be allocated. Nothing is written on an error.
+
+   Integer images (8u, 16u, 16s) are mapped through a table of every value of
+   the type, built once per call and channel (65536 entries for the 16-bit
+   types, 16s indexed from -32768) and then applied: applying a table costs
+   a load per element whatever the curve, and building it costs less than
+   evaluating the curve once per pixel from about a hundred thousand pixels
+   on. The table starts as the identity; the intervals are written in order
+   (a later one overwrites an earlier one where they overlap), each from
+   clamp(pLevels[k]) up to, not including, clamp(pLevels[k+1]), clamped to
+   the type's range plus one (0..256 for 8u, 0..65536 for 16u,
+   -32768..32768 for 16s); finally every value from pLevels[nLevels-1] on is
+   the identity again. Results are clamped to the type's range.
+
+   32f images search the intervals for each value from k = 0 upward; the
+   first that holds it gives the result; a value no interval holds, NaN
+   among them, is copied unchanged. */
+
+/* LUT: a step function: every value of interval k becomes pValues[k]. */
+ZELAPI ZelStatus zeliLUT_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* pValues, const Zel32f* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* pValues, const Zel32f* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[4], const Zel32f* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[4], const Zel32f* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+
+/* LUT_Linear: straight lines between neighbouring pairs. Integer images: for
+   each interval with pLevels[k+1] > pLevels[k], slope =
+   (pValues[k+1] - pValues[k]) / (pLevels[k+1] - pLevels[k]) and intercept =
+   pValues[k] + 0.5 - pLevels[k] * slope in double precision, and entry i
+   becomes clamp(trunc(i * slope + intercept)); the interval's lower bound is
+   clamped to at most the type's largest value, so an interval lying wholly
+   above the range still writes that largest entry. An interval that covers
+   exactly one entry after clamping takes clamp(pValues[k]). Intervals whose
+   upper level is not above the lower one are passed over.
+   32f: slopes in single precision (one work array per channel); a value x
+   of interval k becomes (x - pLevels[k]) * slope[k] + pValues[k], computed
+   in double precision from the single-precision operands and rounded once
+   to single. */
+ZELAPI ZelStatus zeliLUT_Linear_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* pValues, const Zel32f* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* pValues, const Zel32f* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Linear_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[4], const Zel32f* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[4], const Zel32f* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Linear_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Linear_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+
+/* LUT_Cubic: for each interval k with pLevels[k+1] > pLevels[k], the cubic
+   through the four pairs j .. j+3, j = clamp(k - 1, 0, nLevels - 4), solved
+   in double precision by Cramer's rule with the origin at pair j + 1; a
+   value x of the interval becomes a t^3 + b t^2 + c t + pValues[j+1] with
+   t = x - pLevels[j+1], evaluated in double precision as
+   ((a t + b) t + c) t + pValues[j+1]. Integer entries are
+   clamp(trunc(value + 0.5)) over the same clamped interval bounds as
+   LUT_Linear (without its one-entry rule); 32f results are rounded once to
+   single. A channel with two or three levels takes the LUT_Linear curve
+   instead (its own channel only). Four pairs of which two share a level
+   determine no cubic: such an interval takes the LUT_Linear rule. */
+ZELAPI ZelStatus zeliLUT_Cubic_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_C1IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_C3IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_C4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16s_AC4IR(Zel16s* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* pValues, const Zel32s* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[4], const Zel32s* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32s* const pValues[3], const Zel32s* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* pValues, const Zel32f* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* pValues, const Zel32f* pLevels, int nLevels);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[4], const Zel32f* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[4], const Zel32f* const pLevels[4], const int nLevels[4]);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+ZELAPI ZelStatus zeliLUT_Cubic_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiSize, const Zel32f* const pValues[3], const Zel32f* const pLevels[3], const int nLevels[3]);
+
+/* ==== Palettes ========================================================== */
+/* LUTPalette and LUTPaletteSwap index a table with the low nBitSize bits of
+   each source value: dst = pTable[src & (2^nBitSize - 1)]. The table must
+   hold 2^nBitSize entries. 3-channel sources (C3, AC4, C3A0C4) take one
+   table per channel; AC4 leaves the destination alpha unwritten.
+   16u8u, 8u24u, 16u24u, 8u32u and 16u32u write entries of another width:
+   24-bit entries are three bytes each (pTable holds 3 * 2^nBitSize bytes)
+   and are copied as they stand to three-byte destination pixels (pDst
+   advances three bytes a pixel).
+   C3A0C4R: a 3-channel source to a 4-channel destination: channel 0 takes
+   alphaValue and channels 1..3 take T0[s0], T1[s1], T2[s2].
+   LUTPaletteSwap C3A0C4R: channels 0, 1, 2 take T2[s2], T1[s1], T0[s0] and
+   channel 3 takes alphaValue. An alphaValue outside the destination's range
+   (below 0, above 255 for 8u, above 65535 for 16u) leaves that channel
+   unwritten.
+
+   Checks, in order: a null source, destination or table (array) pointer
+   zelStatusNullPtr; ROI width or height below 1 zelStatusBadSize; for the
+   3-table members a null table of the three zelStatusNullPtr; nBitSize
+   outside 1..8 (8u sources) or 1..16 (16u sources) zelStatusBadBitSize.
+   Steps are not checked: a negative step walks the rows upwards. */
+ZELAPI ZelStatus zeliLUTPalette_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* const pTable[3], int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* const pTable[3], int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u* const pTable[3], int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u* const pTable[3], int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u8u_C1R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_8u24u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u24u_C1R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_8u32u_C1R(const Zel8u* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize, const Zel32u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u32u_C1R(const Zel16u* pSrc, int srcStep, Zel32u* pDst, int dstStep, ZeliSize roiSize, const Zel32u* pTable, int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_8u_C3A0C4R(const Zel8u* pSrc, int srcStep, int alphaValue, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* const pTable[3], int nBitSize);
+ZELAPI ZelStatus zeliLUTPalette_16u_C3A0C4R(const Zel16u* pSrc, int srcStep, int alphaValue, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u* const pTable[3], int nBitSize);
+ZELAPI ZelStatus zeliLUTPaletteSwap_8u_C3A0C4R(const Zel8u* pSrc, int srcStep, int alphaValue, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* const pTable[3], int nBitSize);
+
 #ifdef __cplusplus
 }
 #endif

@@ -19,6 +19,7 @@ ELEMENTS = {  # type suffix: (C type, bytes, floating point)
     '8u': ('Zel8u', 1, False), '8s': ('Zel8s', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
     '32s': ('Zel32s', 4, False), '32f': ('Zel32f', 4, True), '16sc': ('Zel16sc', 4, False),
     '32sc': ('Zel32sc', 8, False), '32fc': ('Zel32fc', 8, True),
+    '32u': ('Zel32u', 4, False), '24u': ('Zel8u', 3, False),  # palette entries; 24u: three bytes a pixel
 }
 
 # Families that check their steps; the others trust them (see the header's
@@ -71,6 +72,15 @@ LENIENT_MASKS = ('FilterSobelHorizMask', 'FilterSobelVertMask', 'FilterSobelHori
                  'FilterSobelVertSecond', 'FilterSobelCross')
 for fam in ('Abs', 'Sqr', 'Sqrt', 'Ln', 'Exp', 'Complement'):
     STEP_CHECKS[fam] = lambda t, lay: True
+# Look-up tables check their steps; palettes do not.
+for fam in ('LUT', 'LUT_Linear', 'LUT_Cubic'):
+    STEP_CHECKS[fam] = lambda t, lay: True
+for fam in ('LUTPalette', 'LUTPaletteSwap'):
+    STEP_CHECKS[fam] = lambda t, lay: False
+# Curves of the look-up tables span each source type's range (32f: the
+# sweep's pixel values); the context scales its curve shapes to it.
+CURVE_RANGES = {'8u': (0, 256), '16u': (0, 65536), '16s': (-32768, 32768), '32f': (-1000, 1000)}
+CURVE_SLOTS = {'pValues': 0, 'pLevels': 1}
 
 # Statistics: the reductions trust their steps; CountInRange checks its step
 # (before the size) and MinEvery/MaxEvery theirs. Their results go through
@@ -108,6 +118,7 @@ def layout_parts(layout):
     """'C3P3' -> ['C3', 'P3']; a trailing C (channel of interest) is kept apart."""
     coi = layout.endswith('C') and not re.fullmatch(r'(AC4|C\d|P\d)+', layout)
     body = layout[:-1] if coi else layout
+    body = body.replace('A0', '')  # C3A0C4: three channels to four, the alpha one filled
     parts = re.findall(r'AC4|C\d|P\d', body)
     if ''.join(parts) != body or not parts:
         fail('layout %s not understood' % layout)
@@ -248,7 +259,7 @@ def image_entry(name, params):
         elif pname in OUTPUTS and ptype in ('Zel64f', 'int', ctype):
             slot = sum(1 for n in nulls if n.startswith('{"out '))
             args.append('c.out<%s>(%d)' % (ptype, slot))
-            nulls.append('{"out %s", %d, -1}' % (pname, -20 - slot))
+            nulls.append('{"out %s", %d, -1}' % (pname, -30 - slot))
             out_value = True
         elif pname == 'hint' and ptype == 'ZelAccuracyHint':
             args.append('static_cast<ZelAccuracyHint>(c.flags)')
@@ -256,6 +267,38 @@ def image_entry(name, params):
             args.append('c.outByte()')
             nulls.append('{"pThreshold", -4, -1}')
             out_value = True
+        elif pname in CURVE_SLOTS and ptype in ('const Zel32s', 'const Zel32f'):
+            lo, hi = CURVE_RANGES[tsuf]
+            vtype = ptype.replace('const ', '')
+            slot = CURVE_SLOTS[pname]
+            if arr is not None:
+                args.append('c.curves<%s>(%d, %s, %d, %d)' % (vtype, slot, arr, lo, hi))
+                nulls.append('{"%s", %d, -1}' % (pname, -20 - slot))
+                for k in range(int(arr)):
+                    nulls.append('{"%s[%d]", %d, %d}' % (pname, k, -20 - slot, k))
+            else:
+                args.append('c.curve<%s>(%d, %d, %d)' % (vtype, slot, lo, hi))
+                nulls.append('{"%s", %d, -1}' % (pname, -20 - slot))
+        elif pname == 'nLevels' and ptype in ('int', 'const int'):
+            if arr is not None:
+                args.append('c.levelCounts()')
+                nulls.append('{"nLevels", -22, -1}')
+            else:
+                args.append('c.levelCount()')
+        elif pname == 'pTable':
+            etype = ptype.replace('const ', '')
+            if arr is not None:
+                args.append('c.tables<%s>()' % etype)
+                nulls.append('{"pTable", -23, -1}')
+                for k in range(int(arr)):
+                    nulls.append('{"pTable[%d]", -23, %d}' % (k, k))
+            else:
+                args.append('c.table<%s>()' % etype)
+                nulls.append('{"pTable", -23, -1}')
+        elif pname == 'nBitSize' and ptype == 'int':
+            args.append('c.bitSize')
+        elif pname == 'alphaValue' and ptype == 'int':
+            args.append('c.alphaValue')
         else:
             fail('%s: parameter "%s %s" has no rule' % (name, ptype, pname))
     if len(steps) != len(ops):

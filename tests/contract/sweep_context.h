@@ -11,6 +11,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <array>
 #include <climits>
 #include <cstdint>
@@ -125,6 +126,8 @@ public:
     int cmpOp = 0;
     Zel32f eps = 1.f;
     bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
+    int bitSize = 7;               // palettes
+    int alphaValue = 200;          // palettes from three channels to four
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -141,6 +144,15 @@ public:
         cmpOp = entry.opCheck == OpCheck::thresholdLast || entry.opCheck == OpCheck::thresholdFirst ? 4 : 1;
         eps = 1.f;
         crossThresholds = false;
+        bitSize = entry.ops.empty() ? 7 : 8 * entry.ops[0].elemBytes - 1;
+        alphaValue = 200;
+        for (int c = 0; c < 4; ++c) {
+            // Five levels from below the range to above it, values across it.
+            static constexpr double kLevels[8] = {-0.05, 0.2, 0.45, 0.7, 1.05, 1.1, 1.15, 1.2};
+            static constexpr double kValues[8] = {0.9, 0.1, 0.6, 0.3, 0.5, 0.2, 0.4, 0.8};
+            levelCounts_[c] = 5;
+            for (int k = 0; k < 8; ++k) shapes_[1][c][k] = kLevels[k] + 0.01 * c, shapes_[0][c][k] = kValues[k];
+        }
         outByte_ = outBefore_ = 0xa5;
         std::memset(outStore_, 0xa5, sizeof outStore_);
         nullOperand_ = nullPlane_ = -100;
@@ -212,6 +224,22 @@ public:
             for (int k = 0; k < entry_->orderLength; ++k)
                 order_[k] = std::uniform_int_distribution<int>(0, range - 1)(rng);
         }
+        if (std::strncmp(entry_->family, "LUT", 3) == 0) randomizeCurves(rng);
+    }
+
+    // Look-up tables: 2 to 8 levels a channel, a third of them unsorted,
+    // levels and values over the type's range and a little beyond; palettes:
+    // any bit size, alpha values inside and outside the range.
+    void randomizeCurves(std::mt19937& rng) {
+        std::uniform_real_distribution<double> shape(-0.1, 1.1);
+        for (int c = 0; c < 4; ++c) {
+            levelCounts_[c] = std::uniform_int_distribution<int>(2, 8)(rng);
+            for (int k = 0; k < 8; ++k) shapes_[0][c][k] = shape(rng), shapes_[1][c][k] = shape(rng);
+            if (rng() % 3 != 0) std::sort(shapes_[1][c], shapes_[1][c] + levelCounts_[c]);
+        }
+        bitSize = std::uniform_int_distribution<int>(1, 8 * entry_->ops[0].elemBytes)(rng);
+        static constexpr int kAlphas[] = {0, 200, 255, 65535, -1, 256, 65536, INT_MIN};
+        alphaValue = kAlphas[rng() % std::size(kAlphas)];
     }
 
     // The thunks' view.
@@ -275,10 +303,37 @@ public:
     }
     Zel8u* outByte() { return nullOperand_ == -4 ? nullptr : &outByte_; }
     // Result arrays of the statistics (sums, extrema, indices, counts):
-    // output `slot` of the call, null when the case breaks it (-20 - slot).
+    // output `slot` of the call, null when the case breaks it (-30 - slot).
     template <class T>
     T* out(int slot) {
-        return nullOperand_ == -20 - slot ? nullptr : reinterpret_cast<T*>(outStore_[slot]);
+        return nullOperand_ == -30 - slot ? nullptr : reinterpret_cast<T*>(outStore_[slot]);
+    }
+    // Curves of the look-up tables (slot 0: values, 1: levels), scaled from
+    // their shapes to [lo, hi], for channel 0 or as an array of `channels`.
+    template <class V>
+    const V* curve(int slot, int lo, int hi) {
+        return nullOperand_ == -20 - slot ? nullptr : curveData<V>(slot, 0, lo, hi);
+    }
+    template <class V>
+    const V* const* curves(int slot, int channels, int lo, int hi) {
+        if (nullOperand_ == -20 - slot && nullPlane_ < 0) return nullptr;
+        for (int k = 0; k < channels; ++k)
+            curvePtrs_[slot][k] = nullOperand_ == -20 - slot && nullPlane_ == k ? nullptr : curveData<V>(slot, k, lo, hi);
+        return reinterpret_cast<const V* const*>(curvePtrs_[slot]);
+    }
+    int levelCount() const { return levelCounts_[0]; }
+    const int* levelCounts() const { return nullOperand_ == -22 ? nullptr : levelCounts_; }
+    void setLevelCount(int channel, int n) { levelCounts_[channel] = n; }
+    // Palette tables: 65536 random entries of up to four bytes each.
+    template <class E>
+    const E* table() {
+        return nullOperand_ == -23 ? nullptr : reinterpret_cast<const E*>(paletteTable(0));
+    }
+    template <class E>
+    const E* const* tables() {
+        if (nullOperand_ == -23 && nullPlane_ < 0) return nullptr;
+        for (int k = 0; k < 3; ++k) tablePtrs_[k] = nullOperand_ == -23 && nullPlane_ == k ? nullptr : paletteTable(k);
+        return reinterpret_cast<const E* const*>(tablePtrs_);
     }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
@@ -362,6 +417,11 @@ public:
         if (entry_->opCheck != OpCheck::none) s += " cmpOp " + std::to_string(cmpOp);
         if (entry_->hasEps) s += " eps " + std::to_string(eps);
         if (crossThresholds) s += " (crossed thresholds)";
+        if (std::strncmp(entry_->family, "LUT", 3) == 0) {
+            s += " nLevels";
+            for (int n : levelCounts_) s += " " + std::to_string(n);
+            s += " nBitSize " + std::to_string(bitSize) + " alpha " + std::to_string(alphaValue);
+        }
         if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
         if (entry_->orderLength > 0) {
             s += " order";
@@ -445,6 +505,29 @@ private:
         else return static_cast<T>(std::numeric_limits<T>::max() / 2 + signedOffset);
     }
     alignas(8) std::uint8_t limitStore_[5][32] = {};
+    template <class V>
+    const V* curveData(int slot, int channel, int lo, int hi) {
+        V* out = reinterpret_cast<V*>(curveStore_[slot][channel]);
+        for (int k = 0; k < 8; ++k) {
+            const double v = lo + shapes_[slot][channel][k] * (double(hi) - lo);
+            out[k] = std::is_floating_point_v<V> ? static_cast<V>(v) : static_cast<V>(std::floor(v));
+        }
+        return out;
+    }
+    static const void* paletteTable(int k) {
+        static const std::vector<std::uint8_t> bytes = [] {
+            std::vector<std::uint8_t> b(3 * 65536 * 4);
+            std::mt19937 rng(77);
+            for (auto& x : b) x = static_cast<std::uint8_t>(rng());
+            return b;
+        }();
+        return bytes.data() + std::size_t(k) * 65536 * 4;
+    }
+    double shapes_[2][4][8] = {};
+    int levelCounts_[4] = {5, 5, 5, 5};
+    alignas(8) std::uint8_t curveStore_[2][4][32] = {};
+    const void* curvePtrs_[2][4] = {};
+    const void* tablePtrs_[3] = {};
     Zel8u outByte_ = 0xa5, outBefore_ = 0xa5;
     alignas(8) std::uint8_t outStore_[3][32] = {};
     alignas(8) std::uint8_t valueStore_[32] = {};

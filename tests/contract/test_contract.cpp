@@ -135,6 +135,21 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
     else if (e.crossable)
         list.push_back({"thresholdGT below thresholdLT", zelStatusThresholdsCrossed,
                         [](SweepContext& c) { c.crossThresholds = true; }});
+    // Look-up tables: fewer than two levels in any channel; palettes: a bit
+    // size outside 1..8 (8u sources) or 1..16 (16u sources).
+    const std::string family = e.family;
+    if (family == "LUT" || family == "LUT_Linear" || family == "LUT_Cubic") {
+        const int channels = std::string(e.layout) == "AC4" ? 3 : e.ops[0].channels;
+        for (int k = 0; k < channels; ++k)
+            for (int n : {1, 0, -3})
+                list.push_back({"nLevels[" + std::to_string(k) + "] = " + std::to_string(n), zelStatusBadLUTLevels,
+                                [k, n](SweepContext& c) { c.setLevelCount(k, n); }});
+    }
+    if (family == "LUTPalette" || family == "LUTPaletteSwap") {
+        for (int bits : {0, -1, 8 * e.ops[0].elemBytes + 1, 1 << 20})
+            list.push_back({"nBitSize " + std::to_string(bits), zelStatusBadBitSize,
+                            [bits](SweepContext& c) { c.bitSize = bits; }});
+    }
     if (e.orderLength > 0) {
         const std::string lay = e.layout;
         // C3C4 checks only its first three entries, only for being negative.
@@ -257,7 +272,8 @@ bool acceptsSourceOnDestination(const CallEntry& e) {
                                                      "MulCScale", "Div", "Div_Round", "DivC", "Copy",
                                                      "CopyManaged", "SwapChannels", "Threshold", "Threshold_LT",
                                                      "Threshold_GT", "Threshold_Val", "Threshold_LTVal",
-                                                     "Threshold_GTVal", "Threshold_LTValGTVal"};
+                                                     "Threshold_GTVal", "Threshold_LTValGTVal", "LUT",
+                                                     "LUT_Linear", "LUT_Cubic"};
     return pixelwise.count(e.family) > 0;
 }
 
