@@ -21,14 +21,16 @@ struct Frame {
 template <class Median>
 void registerMedian(const std::string& group, int type, int side, Median median) {
     auto make = [type](ZeliSize s) { return Frame(s, type); };
-    for (int threads : {1, 2})
-        zel::bench::registerPair(
-            group + zel::bench::threadSuffix(threads), make,
-            [median, side](Frame& f, ZeliSize s) {
-                median(f.src.ptr<Zel8u>(), static_cast<int>(f.src.step), f.dst.ptr<Zel8u>(),
-                       static_cast<int>(f.dst.step), s, ZeliSize{side, side}, ZeliPoint{side / 2, side / 2});
-            },
-            [side](Frame& f) { cv::medianBlur(f.src, f.dst, side); }, threads, kSizes);
+    for (int threads : {1, 2}) {
+        const std::string name = group + zel::bench::threadSuffix(threads);
+        zel::bench::registerRun(name, "zeli", make, [median, side](Frame& f, ZeliSize s) {
+            median(f.src.ptr<Zel8u>(), static_cast<int>(f.src.step), f.dst.ptr<Zel8u>(),
+                   static_cast<int>(f.dst.step), s, ZeliSize{side, side}, ZeliPoint{side / 2, side / 2});
+        }, threads, kSizes);
+        zel::bench::registerRun(name, "opencv", make, [side](Frame& f, ZeliSize) {
+            cv::medianBlur(f.src, f.dst, side);
+        }, threads, kSizes);
+    }
 }
 
 void registerAll() {

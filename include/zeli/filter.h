@@ -435,9 +435,11 @@ ZELAPI ZelStatus zeliFilterSharpen_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel
    width - 1 and rows y - anchor.y .. y - anchor.y + height - 1 (the mask
    is not mirrored). A 1 x 1 mask copies the ROI (zeliCopy); 3 x 1, 5 x 1,
    1 x 3 and 1 x 5 masks are FilterMedianHoriz and FilterMedianVert on the
-   window's centre. The 8u members of other sizes keep a running histogram
-   along each row; the 16u and 16s members of other sizes, and the 8u C4
-   and AC4 members of other sizes, share their rows among threads. */
+   window's centre. 3 x 3, 5 x 5 and 7 x 7 masks sort columns once and
+   select through a fixed network; the 8u members of other sizes keep a
+   running histogram along each row. The 16u and 16s members, and the 8u C4
+   and AC4 members, share the rows of masks other than 3 x 3, 5 x 5 and the
+   one-dimensional ones among threads. */
 ZELAPI ZelStatus zeliFilterMedian_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
     ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
 ZELAPI ZelStatus zeliFilterMedian_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,

@@ -59,6 +59,23 @@ HWY_INLINE void LoadWires(V* w, const Load& load, std::index_sequence<I...>) {
     (LoadWire<Net, I>(w, load), ...);
 }
 
+// Calls pixel(d, writeMask, x) for the elements x in [x0, x1): whole
+// vectors while they end before vectorEnd, then one-lane vectors, which
+// skip AC4 alpha elements.
+template <class T, bool KeepAlpha, class Pixel>
+HWY_INLINE void ForEachVector(std::ptrdiff_t x0, std::ptrdiff_t x1, std::ptrdiff_t vectorEnd, const Pixel& pixel) {
+    using filter_detail::ColourLanes;
+    const hn::ScalableTag<T> d;
+    const hn::CappedTag<T, 1> d1;
+    const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+    const auto write = ColourLanes(d);
+    const auto write1 = ColourLanes(d1);
+    std::ptrdiff_t x = x0;
+    for (; vectorEnd - x >= N; x += N) pixel(d, write, x);
+    for (; x < x1; ++x)
+        if (!KeepAlpha || x % 4 != 3) pixel(d1, write1, x);
+}
+
 }  // namespace median_detail
 
 // Median of a tap window (Shape of median_network.h) on a block.
@@ -70,11 +87,6 @@ void TapMedianBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock
     using namespace median_detail;
     constexpr const filter::Network& kNet = filter::TapNetwork<Shape>::kNet;
     constexpr int R = Shape::kRadius;
-    const hn::ScalableTag<T> d;
-    const hn::CappedTag<T, 1> d1;
-    const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
-    const auto write = ColourLanes(d);
-    const auto write1 = ColourLanes(d1);
     const T* src = static_cast<const T*>(srcBlock);
     T* dst = static_cast<T*>(dstBlock);
     const std::ptrdiff_t vectorEnd = KeepAlpha && end == n ? end - 1 : end;
@@ -95,10 +107,7 @@ void TapMedianBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock
             Run<kNet>(w);
             StoreOut<KeepAlpha>(w[kNet.out], dv, writeMask, out + x);
         };
-        std::ptrdiff_t x = begin;
-        for (; vectorEnd - x >= N; x += N) pixel(d, write, x);
-        for (; x < end; ++x)
-            if (!KeepAlpha || x % 4 != 3) pixel(d1, write1, x);
+        ForEachVector<T, KeepAlpha>(begin, end, vectorEnd, pixel);
     }
 }
 
@@ -119,8 +128,6 @@ void SquareMedianBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBl
     const hn::ScalableTag<T> d;
     const hn::CappedTag<T, 1> d1;
     const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
-    const auto write = ColourLanes(d);
-    const auto write1 = ColourLanes(d1);
     const T* src = static_cast<const T*>(srcBlock);
     T* dst = static_cast<T*>(dstBlock);
     const std::ptrdiff_t reach = std::ptrdiff_t{R} * channels;
@@ -160,10 +167,7 @@ void SquareMedianBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBl
                 Run<kNet>(w);
                 StoreOut<KeepAlpha>(w[kNet.out], dv, writeMask, out + x);
             };
-            std::ptrdiff_t x = x0;
-            for (; vectorEnd - x >= N; x += N) pixel(d, write, x);
-            for (; x < x1; ++x)
-                if (!KeepAlpha || x % 4 != 3) pixel(d1, write1, x);
+            ForEachVector<T, KeepAlpha>(x0, x1, vectorEnd, pixel);
         }
     }
 }

@@ -1,10 +1,11 @@
 // Median over a rectangle of odd sides with a free anchor. After the checks
 // the source pointer moves so that the window is centred on its pixel, and
-// the mask size picks the work: the square 3x3 and 5x5 kernels (columns
-// sorted once, then a pruned network), the horizontal and vertical medians
+// the mask size picks the work: the square 3x3, 5x5 and 7x7 kernels
+// (columns sorted once, then a pruned network), the horizontal and vertical medians
 // for the one-dimensional masks, a copy for 1 x 1, and the general kernel
-// for any other size: a running histogram along each row (8u), or a
-// selection over the gathered window (16u, 16s).
+// for any other size: a running histogram along each row (8u; 16u and 16s
+// masks of 100 values and more), or a selection over the gathered window
+// (smaller 16u and 16s masks).
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "filter/median.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
@@ -17,6 +18,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 #include "filter/median_filter.h"
 
@@ -96,6 +99,69 @@ void selectMedianBlock(const T* src, int srcStep, T* dst, int dstStep, const Blo
     }
 }
 
+// Masks of at least this many values take the 16-bit histogram kernel.
+constexpr std::int64_t kHistogramFrom = 100;
+
+// General 16-bit kernel for large masks, one block: a running histogram of
+// 256 coarse bins (the high byte) and 65536 fine ones (`fine`, zero on entry
+// and on return). The coarse candidate moves as in the 8u kernel; the
+// median's fine bin is then found inside the candidate's coarse bin, from
+// whichever end is nearer in count. Values are keyed as unsigned (16s: the
+// sign bit flipped), which keeps their order.
+template <class T>
+void histogram16MedianBlock(const T* src, int srcStep, T* dst, int dstStep, const Block& b, ZeliSize mask,
+                            int channels, int computed, std::uint32_t* fine) {
+    constexpr unsigned kFlip = std::is_signed_v<T> ? 0x8000u : 0u;
+    const std::ptrdiff_t half = std::ptrdiff_t{mask.width} * mask.height / 2;
+    for (std::ptrdiff_t y = b.y0; y < b.y1; ++y) {
+        const T* top = rowAt(src, srcStep, y);
+        T* out = rowAt(dst, dstStep, y);
+        for (int c = 0; c < computed; ++c) {
+            const PixelRange px = pixelsOf(b.begin, b.end, channels, c);
+            if (px.first >= px.last) continue;
+            std::ptrdiff_t coarse[256] = {};
+            auto key = [&](int r, std::ptrdiff_t p) {
+                return static_cast<unsigned>(static_cast<std::uint16_t>(rowAt(top, srcStep, r)[p * channels + c])) ^
+                       kFlip;
+            };
+            auto window = [&](std::ptrdiff_t p, int delta) {
+                for (int r = 0; r < mask.height; ++r)
+                    for (int dx = 0; dx < mask.width; ++dx) {
+                        const unsigned k = key(r, p + dx);
+                        coarse[k >> 8] += delta;
+                        fine[k] += static_cast<std::uint32_t>(delta);
+                    }
+            };
+            window(px.first, 1);
+            int cb = 0;
+            std::ptrdiff_t below = 0;  // values whose coarse bin is below cb
+            for (std::ptrdiff_t p = px.first;; ++p) {
+                while (below > half) below -= coarse[--cb];
+                while (below + coarse[cb] <= half) below += coarse[cb++];
+                unsigned f;
+                if (half - below < coarse[cb] / 2) {
+                    std::ptrdiff_t at = below;
+                    for (f = static_cast<unsigned>(cb) << 8; at + fine[f] <= half; ++f) at += fine[f];
+                } else {
+                    std::ptrdiff_t at = below + coarse[cb];  // values at or below the bin's top
+                    for (f = (static_cast<unsigned>(cb) << 8) | 255u; at - fine[f] > half; --f) at -= fine[f];
+                }
+                out[p * channels + c] = static_cast<T>(f ^ kFlip);
+                if (p + 1 == px.last) break;
+                for (int r = 0; r < mask.height; ++r) {
+                    const unsigned leaving = key(r, p), entering = key(r, p + mask.width);
+                    --coarse[leaving >> 8];
+                    --fine[leaving];
+                    ++coarse[entering >> 8];
+                    ++fine[entering];
+                    below += (static_cast<int>(entering >> 8) < cb) - (static_cast<int>(leaving >> 8) < cb);
+                }
+            }
+            window(px.last - 1, -1);
+        }
+    }
+}
+
 // The general kernel over the ROI; `src` addresses the window's top-left
 // corner. The 16-bit members and the four-channel 8u members share their
 // rows among threads, the others run on the calling thread.
@@ -106,24 +172,33 @@ ZelStatus generalMedian(const T* src, int srcStep, T* dst, int dstStep, ZeliSize
     constexpr bool kByte = sizeof(T) == 1;
     const std::ptrdiff_t n = std::ptrdiff_t{roi.width} * C;
     const std::int64_t count = std::int64_t{mask.width} * mask.height;
-    // Work per element: about 2 h histogram updates (8u) or the window's
-    // count (16-bit), each a histogram-weight byte.
-    const std::int64_t perElement = kByte ? 2 * std::int64_t{mask.height} : count;
+    // Work per element: about 2 h histogram updates (8u), the window's count
+    // (16-bit selection), each a histogram-weight byte.
+    const std::int64_t perElement = kByte ? 2 * std::int64_t{mask.height} : std::min<std::int64_t>(count, 256);
     const std::int64_t touched = std::min<std::int64_t>(
         std::int64_t{1} << 50, 2 * std::int64_t{sizeof(T)} * n * roi.height * std::min<std::int64_t>(perElement, 1 << 20));
     const bool threaded = !kByte || C == 4;
     const int team = threaded ? teamSize(touched, kCostHistogram, pieceCount(roi.height, n, kGrain)) : 1;
-    Buffer<T> windows;
+    // 16-bit: a window buffer per thread, or the fine histogram. No window
+    // of 2^40 values can be worked (nor read).
+    if (!kByte && count >= (std::int64_t{1} << 40)) return zelStatusNoMemory;
+    const bool histogram = !kByte && count >= kHistogramFrom && count < (std::int64_t{1} << 31);
+    const std::size_t perThread = kByte ? 0 : histogram ? 65536 * sizeof(std::uint32_t) : count * sizeof(T);
+    Buffer<std::uint8_t> scratch;
     if constexpr (!kByte) {
-        windows = allocBuffer<T>(static_cast<std::size_t>(count) * team);
-        if (!windows) return zelStatusNoMemory;
+        scratch = allocBuffer<std::uint8_t>(perThread * team);
+        if (!scratch) return zelStatusNoMemory;
+        if (histogram) std::memset(scratch.get(), 0, perThread * team);
     }
     forEachBlock(roi.height, n, kGrain, team, [&](const Block& b) {
+        void* mine = scratch.get() + perThread * b.thread;
         if constexpr (kByte)
             histogramMedianBlock(src, srcStep, dst, dstStep, b, mask, C, kComputed<L>);
+        else if (histogram)
+            histogram16MedianBlock(src, srcStep, dst, dstStep, b, mask, C, kComputed<L>,
+                                   static_cast<std::uint32_t*>(mine));
         else
-            selectMedianBlock(src, srcStep, dst, dstStep, b, mask, C, kComputed<L>,
-                              windows.get() + static_cast<std::size_t>(count) * b.thread);
+            selectMedianBlock(src, srcStep, dst, dstStep, b, mask, C, kComputed<L>, static_cast<T*>(mine));
     });
     return zelStatusOk;
 }
@@ -157,6 +232,13 @@ ZelStatus filterMedian(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSiz
         return runPlan<T, T, L>(squareMedianPlan<1, T, kKeepAlpha>(), centred, srcStep, pDst, dstStep, roi);
     if (w == 5 && h == 5)
         return runPlan<T, T, L>(squareMedianPlan<2, T, kKeepAlpha>(), centred, srcStep, pDst, dstStep, roi);
+    if (w == 7 && h == 7) {
+        // The square network gives the general kernel's results, faster;
+        // it shares its rows among threads where the general kernel would.
+        Plan plan = squareMedianPlan<3, T, kKeepAlpha>();
+        plan.callingThread = sizeof(T) == 1 && C != 4;
+        return runPlan<T, T, L>(plan, centred, srcStep, pDst, dstStep, roi);
+    }
     const T* corner = byteOffset(pSrc, -std::ptrdiff_t{srcStep} * anchor.y) - std::ptrdiff_t{anchor.x} * C;
     return generalMedian<T, L>(corner, srcStep, pDst, dstStep, roi, mask);
 }

@@ -16,7 +16,8 @@
 //   rows and columns are both ordered, an element with at least m elements
 //   at or after it (m the median's rank) lies below the median, and the
 //   median is the median of the elements that are neither certainly below
-//   nor certainly above (3x3: three of them, 5x5: thirteen).
+//   nor certainly above (3x3: three of them, 5x5: thirteen, 7x7:
+//   twenty-nine).
 #pragma once
 
 #include <cstddef>
@@ -29,8 +30,8 @@ struct Exchange {
     std::uint8_t keep = 3;  // bit 0: the minimum is read later, bit 1: the maximum
 };
 
-constexpr int kMaxWires = 32;
-constexpr int kMaxExchanges = 256;
+constexpr int kMaxWires = 64;
+constexpr int kMaxExchanges = 512;
 
 struct Network {
     Exchange at[kMaxExchanges] = {};
