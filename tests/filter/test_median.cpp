@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cfenv>
 #include <cmath>
 #include <cstring>
 #include <functional>
@@ -464,6 +465,30 @@ TEST(Median, ColourRule) {
     f[12 * 3 + 1] = 7.f;
     ASSERT_EQ(mf.call(f.data() + 12 * 3, 60, fo, 12, {1, 1}, a), zelStatusOk);
     EXPECT_EQ(fo[1], 7.f);
+}
+
+// The 32f colour sums are formed under round-to-nearest whatever the
+// caller's mode, which is in place again afterwards. In this window (red
+// only) the sums of the first pixel (3) and the centre (5) tie when rounded
+// to nearest, so the first wins; rounded upwards the centre's would be the
+// smaller.
+TEST(Median, ColourIgnoresTheCallersRoundingMode) {
+    const float big2 = std::ldexp(2.f, 60), big3 = std::ldexp(3.f, 60);
+    const float red[9] = {3, big3, 1, big2, 5, 3, 5, 5, big2};
+    std::vector<float> window(27, 0.f);
+    for (int i = 0; i < 9; ++i) window[i * 3] = red[i];
+    const Member& m = member("zeliFilterMedianColor_32f_C3R");
+    MaskArgs a;
+    for (int mode : {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO}) {
+        float out[3] = {-1, -1, -1};
+        std::fesetround(mode);
+        const int st = m.call(window.data() + 4 * 3, 9 * sizeof(float), out, sizeof out, {1, 1}, a);
+        const int after = std::fegetround();
+        std::fesetround(FE_TONEAREST);
+        EXPECT_EQ(st, zelStatusOk);
+        EXPECT_EQ(after, mode);
+        EXPECT_EQ(out[0], 3.f) << "mode " << mode;
+    }
 }
 
 }  // namespace
