@@ -175,8 +175,8 @@ ZelStatus generalMedian(const T* src, int srcStep, T* dst, int dstStep, ZeliSize
     // Work per element: about 2 h histogram updates (8u), the window's count
     // (16-bit selection), each a histogram-weight byte.
     const std::int64_t perElement = kByte ? 2 * std::int64_t{mask.height} : std::min<std::int64_t>(count, 256);
-    const std::int64_t touched = std::min<std::int64_t>(
-        std::int64_t{1} << 50, 2 * std::int64_t{sizeof(T)} * n * roi.height * std::min<std::int64_t>(perElement, 1 << 20));
+    const double work = 2.0 * sizeof(T) * static_cast<double>(n) * roi.height * static_cast<double>(perElement);
+    const std::int64_t touched = static_cast<std::int64_t>(std::min(work, 0x1p50));
     const bool threaded = !kByte || C == 4;
     const int team = threaded ? teamSize(touched, kCostHistogram, pieceCount(roi.height, n, kGrain)) : 1;
     // 16-bit: a window buffer per thread, or the fine histogram. No window
