@@ -37,6 +37,19 @@ inline PixelRange pixelsOf(std::ptrdiff_t begin, std::ptrdiff_t end, int channel
     return {first, std::max(first, last)};
 }
 
+// Calls run(top, out, c, pixels) for every row of block b and every
+// computed channel c that has pixels in it; `top` is the source row at the
+// window's top, `out` the destination row.
+template <class T, class Run>
+void forEachChannelRun(const T* src, int srcStep, T* dst, int dstStep, const Block& b, int channels, int computed,
+                       Run&& run) {
+    for (std::ptrdiff_t y = b.y0; y < b.y1; ++y)
+        for (int c = 0; c < computed; ++c) {
+            const PixelRange px = pixelsOf(b.begin, b.end, channels, c);
+            if (px.first < px.last) run(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), c, px);
+        }
+}
+
 // General 8u kernel, one block: for each row and channel, the histogram of
 // the first window is built, then the window moves along the row; the
 // columns that leave and enter update the histogram and the count of
@@ -46,33 +59,28 @@ inline PixelRange pixelsOf(std::ptrdiff_t begin, std::ptrdiff_t end, int channel
 void histogramMedianBlock(const Zel8u* src, int srcStep, Zel8u* dst, int dstStep, const Block& b, ZeliSize mask,
                           int channels, int computed) {
     const std::ptrdiff_t half = std::ptrdiff_t{mask.width} * mask.height / 2;
-    for (std::ptrdiff_t y = b.y0; y < b.y1; ++y) {
-        const Zel8u* top = rowAt(src, srcStep, y);
-        Zel8u* out = rowAt(dst, dstStep, y);
-        for (int c = 0; c < computed; ++c) {
-            const PixelRange px = pixelsOf(b.begin, b.end, channels, c);
-            if (px.first >= px.last) continue;
-            std::ptrdiff_t hist[256] = {};
-            auto at = [&](int r, std::ptrdiff_t p) { return rowAt(top, srcStep, r)[p * channels + c]; };
-            for (int r = 0; r < mask.height; ++r)
-                for (int dx = 0; dx < mask.width; ++dx) ++hist[at(r, px.first + dx)];
-            int m = 0;
-            std::ptrdiff_t below = 0;  // values < m
-            while (below + hist[m] <= half) below += hist[m++];
-            out[px.first * channels + c] = static_cast<Zel8u>(m);
-            for (std::ptrdiff_t p = px.first + 1; p < px.last; ++p) {
-                for (int r = 0; r < mask.height; ++r) {
-                    const int leaving = at(r, p - 1), entering = at(r, p - 1 + mask.width);
-                    --hist[leaving];
-                    ++hist[entering];
-                    below += (entering < m) - (leaving < m);
-                }
-                while (below > half) below -= hist[--m];
-                while (below + hist[m] <= half) below += hist[m++];
-                out[p * channels + c] = static_cast<Zel8u>(m);
+    forEachChannelRun(src, srcStep, dst, dstStep, b, channels, computed, [&](const Zel8u* top, Zel8u* out, int c,
+                                                                             PixelRange px) {
+        std::ptrdiff_t hist[256] = {};
+        auto at = [&](int r, std::ptrdiff_t p) { return rowAt(top, srcStep, r)[p * channels + c]; };
+        for (int r = 0; r < mask.height; ++r)
+            for (int dx = 0; dx < mask.width; ++dx) ++hist[at(r, px.first + dx)];
+        int m = 0;
+        std::ptrdiff_t below = 0;  // values < m
+        while (below + hist[m] <= half) below += hist[m++];
+        out[px.first * channels + c] = static_cast<Zel8u>(m);
+        for (std::ptrdiff_t p = px.first + 1; p < px.last; ++p) {
+            for (int r = 0; r < mask.height; ++r) {
+                const int leaving = at(r, p - 1), entering = at(r, p - 1 + mask.width);
+                --hist[leaving];
+                ++hist[entering];
+                below += (entering < m) - (leaving < m);
             }
+            while (below > half) below -= hist[--m];
+            while (below + hist[m] <= half) below += hist[m++];
+            out[p * channels + c] = static_cast<Zel8u>(m);
         }
-    }
+    });
 }
 
 // General 16-bit kernel, one block: each window gathered into the thread's
@@ -81,22 +89,18 @@ template <class T>
 void selectMedianBlock(const T* src, int srcStep, T* dst, int dstStep, const Block& b, ZeliSize mask, int channels,
                        int computed, T* window) {
     const std::ptrdiff_t count = std::ptrdiff_t{mask.width} * mask.height;
-    for (std::ptrdiff_t y = b.y0; y < b.y1; ++y) {
-        const T* top = rowAt(src, srcStep, y);
-        T* out = rowAt(dst, dstStep, y);
-        for (int c = 0; c < computed; ++c) {
-            const PixelRange px = pixelsOf(b.begin, b.end, channels, c);
-            for (std::ptrdiff_t p = px.first; p < px.last; ++p) {
-                T* w = window;
-                for (int r = 0; r < mask.height; ++r) {
-                    const T* in = rowAt(top, srcStep, r) + p * channels + c;
-                    for (int dx = 0; dx < mask.width; ++dx) *w++ = in[std::ptrdiff_t{dx} * channels];
-                }
-                std::nth_element(window, window + count / 2, window + count);
-                out[p * channels + c] = window[count / 2];
+    forEachChannelRun(src, srcStep, dst, dstStep, b, channels, computed, [&](const T* top, T* out, int c,
+                                                                             PixelRange px) {
+        for (std::ptrdiff_t p = px.first; p < px.last; ++p) {
+            T* w = window;
+            for (int r = 0; r < mask.height; ++r) {
+                const T* in = rowAt(top, srcStep, r) + p * channels + c;
+                for (int dx = 0; dx < mask.width; ++dx) *w++ = in[std::ptrdiff_t{dx} * channels];
             }
+            std::nth_element(window, window + count / 2, window + count);
+            out[p * channels + c] = window[count / 2];
         }
-    }
+    });
 }
 
 // Masks of at least this many values take the 16-bit histogram kernel.
@@ -113,53 +117,48 @@ void histogram16MedianBlock(const T* src, int srcStep, T* dst, int dstStep, cons
                             int channels, int computed, std::uint32_t* fine) {
     constexpr unsigned kFlip = std::is_signed_v<T> ? 0x8000u : 0u;
     const std::ptrdiff_t half = std::ptrdiff_t{mask.width} * mask.height / 2;
-    for (std::ptrdiff_t y = b.y0; y < b.y1; ++y) {
-        const T* top = rowAt(src, srcStep, y);
-        T* out = rowAt(dst, dstStep, y);
-        for (int c = 0; c < computed; ++c) {
-            const PixelRange px = pixelsOf(b.begin, b.end, channels, c);
-            if (px.first >= px.last) continue;
-            std::ptrdiff_t coarse[256] = {};
-            auto key = [&](int r, std::ptrdiff_t p) {
-                return static_cast<unsigned>(static_cast<std::uint16_t>(rowAt(top, srcStep, r)[p * channels + c])) ^
-                       kFlip;
-            };
-            auto window = [&](std::ptrdiff_t p, int delta) {
-                for (int r = 0; r < mask.height; ++r)
-                    for (int dx = 0; dx < mask.width; ++dx) {
-                        const unsigned k = key(r, p + dx);
-                        coarse[k >> 8] += delta;
-                        fine[k] += static_cast<std::uint32_t>(delta);
-                    }
-            };
-            window(px.first, 1);
-            int cb = 0;
-            std::ptrdiff_t below = 0;  // values whose coarse bin is below cb
-            for (std::ptrdiff_t p = px.first;; ++p) {
-                while (below > half) below -= coarse[--cb];
-                while (below + coarse[cb] <= half) below += coarse[cb++];
-                unsigned f;
-                if (half - below < coarse[cb] / 2) {
-                    std::ptrdiff_t at = below;
-                    for (f = static_cast<unsigned>(cb) << 8; at + fine[f] <= half; ++f) at += fine[f];
-                } else {
-                    std::ptrdiff_t at = below + coarse[cb];  // values at or below the bin's top
-                    for (f = (static_cast<unsigned>(cb) << 8) | 255u; at - fine[f] > half; --f) at -= fine[f];
+    forEachChannelRun(src, srcStep, dst, dstStep, b, channels, computed, [&](const T* top, T* out, int c,
+                                                                             PixelRange px) {
+        std::ptrdiff_t coarse[256] = {};
+        auto key = [&](int r, std::ptrdiff_t p) {
+            return static_cast<unsigned>(static_cast<std::uint16_t>(rowAt(top, srcStep, r)[p * channels + c])) ^
+                   kFlip;
+        };
+        auto window = [&](std::ptrdiff_t p, int delta) {
+            for (int r = 0; r < mask.height; ++r)
+                for (int dx = 0; dx < mask.width; ++dx) {
+                    const unsigned k = key(r, p + dx);
+                    coarse[k >> 8] += delta;
+                    fine[k] += static_cast<std::uint32_t>(delta);
                 }
-                out[p * channels + c] = static_cast<T>(f ^ kFlip);
-                if (p + 1 == px.last) break;
-                for (int r = 0; r < mask.height; ++r) {
-                    const unsigned leaving = key(r, p), entering = key(r, p + mask.width);
-                    --coarse[leaving >> 8];
-                    --fine[leaving];
-                    ++coarse[entering >> 8];
-                    ++fine[entering];
-                    below += (static_cast<int>(entering >> 8) < cb) - (static_cast<int>(leaving >> 8) < cb);
-                }
+        };
+        window(px.first, 1);
+        int cb = 0;
+        std::ptrdiff_t below = 0;  // values whose coarse bin is below cb
+        for (std::ptrdiff_t p = px.first;; ++p) {
+            while (below > half) below -= coarse[--cb];
+            while (below + coarse[cb] <= half) below += coarse[cb++];
+            unsigned f;
+            if (half - below < coarse[cb] / 2) {
+                std::ptrdiff_t at = below;
+                for (f = static_cast<unsigned>(cb) << 8; at + fine[f] <= half; ++f) at += fine[f];
+            } else {
+                std::ptrdiff_t at = below + coarse[cb];  // values at or below the bin's top
+                for (f = (static_cast<unsigned>(cb) << 8) | 255u; at - fine[f] > half; --f) at -= fine[f];
             }
-            window(px.last - 1, -1);
+            out[p * channels + c] = static_cast<T>(f ^ kFlip);
+            if (p + 1 == px.last) break;
+            for (int r = 0; r < mask.height; ++r) {
+                const unsigned leaving = key(r, p), entering = key(r, p + mask.width);
+                --coarse[leaving >> 8];
+                --fine[leaving];
+                ++coarse[entering >> 8];
+                ++fine[entering];
+                below += (static_cast<int>(entering >> 8) < cb) - (static_cast<int>(leaving >> 8) < cb);
+            }
         }
-    }
+        window(px.last - 1, -1);
+    });
 }
 
 // The general kernel over the ROI; `src` addresses the window's top-left
