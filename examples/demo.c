@@ -272,6 +272,30 @@ int main(int argc, char** argv) {
              zeliLUT_Cubic_8u_C3IR(toned, tonedStep, size, warmValues, sameLevels, counts));
         save("tone_warm.png", toned, tonedStep, size, 3);
         zeliFree(toned);
+        /* Median denoise: salt-and-pepper noise on a copy of the picture
+           (one pixel in twelve black or white, from a fixed pseudo-random
+           sequence), a replicated 1-pixel border, then the 3x3 median. */
+        int noisyStep = 0, cleanStep = 0;
+        const ZeliSize withBorder = {size.width + 2, size.height + 2};
+        Zel8u* noisy = zeliMalloc_8u_C3(withBorder.width, withBorder.height, &noisyStep);
+        Zel8u* clean = zeliMalloc_8u_C3(size.width, size.height, &cleanStep);
+        if (!noisy || !clean) return 1;
+        Zel8u* inside = noisy + noisyStep + 3;
+        STEP("Copy_8u_C3R: the picture inside a larger image", zeliCopy_8u_C3R(rgb, rgbStep, inside, noisyStep, size));
+        unsigned int seed = 12345u;
+        for (int y = 0; y < size.height; ++y)
+            for (int x = 0; x < size.width; ++x) {
+                seed = seed * 1103515245u + 12345u;
+                const unsigned int draw = (seed >> 16) % 24u;
+                if (draw < 2) memset(inside + (long)y * noisyStep + 3 * x, draw == 0 ? 0 : 255, 3);
+            }
+        replicateBorder(inside, noisyStep, size, 1, 3);
+        save("noisy.png", inside, noisyStep, size, 3);
+        STEP("FilterMedian_8u_C3R: 3x3 median of the noisy copy",
+             zeliFilterMedian_8u_C3R(inside, noisyStep, clean, cleanStep, size, (ZeliSize){3, 3}, (ZeliPoint){1, 1}));
+        save("denoised.png", clean, cleanStep, size, 3);
+        zeliFree(clean);
+        zeliFree(noisy);
     }
 
     zeliFree(brighter);

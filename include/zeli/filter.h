@@ -409,6 +409,177 @@ ZELAPI ZelStatus zeliFilterSharpen_32f_C4R(const Zel32f* pSrc, int srcStep, Zel3
 ZELAPI ZelStatus zeliFilterSharpen_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
     ZeliSize roi);
 
+/* ==== Median filters ==================================================== */
+/* Every destination pixel is the median of the source values in a window
+   around the corresponding source pixel, channel by channel: the values
+   are ordered and the result is the one of rank n / 2 + 1 (n, the window's
+   count, is always odd, so this is the exact middle value; nothing is
+   averaged). Like every neighbourhood filter these are no-border
+   operations: the source pixels the window reaches around the ROI must be
+   valid, and nothing else is read. Results are the same on every processor
+   and for any thread count.
+
+   Checks, in order: pSrc or pDst null (zelStatusNullPtr), ROI width or
+   height below 1 (zelStatusBadSize), srcStep or dstStep below 1
+   (zelStatusBadStep; a step shorter than a row is not detected), the mask
+   (zelStatusBadMaskSize, then for FilterMedian the anchor,
+   zelStatusBadAnchor; for FilterMedianWeightedCenter3x3 the weight,
+   zelStatusBadWeight), then work buffers that cannot be allocated
+   (zelStatusNoMemory). Nothing is written on an error. C3 and C4 filter
+   every channel; AC4 filters the three colour channels and leaves the
+   destination alpha unwritten. */
+
+/* FilterMedian: a maskSize.width x maskSize.height rectangle (both odd and
+   positive) whose element anchor lies over the pixel: destination pixel
+   (x, y) is the median of source columns x - anchor.x .. x - anchor.x +
+   width - 1 and rows y - anchor.y .. y - anchor.y + height - 1 (the mask
+   is not mirrored). A 1 x 1 mask copies the ROI (zeliCopy); 3 x 1, 5 x 1,
+   1 x 3 and 1 x 5 masks are FilterMedianHoriz and FilterMedianVert on the
+   window's centre. 3 x 3, 5 x 5 and 7 x 7 masks sort columns once and
+   select through a fixed network; the 8u members of other sizes keep a
+   running histogram along each row. The 16u and 16s members, and the 8u C4
+   and AC4 members, share the rows of masks other than 3 x 3, 5 x 5 and the
+   one-dimensional ones among threads. */
+ZELAPI ZelStatus zeliFilterMedian_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMedian_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+
+/* FilterMedianHoriz: the median of the pixel and its one (mask code 31) or
+   two (51) neighbours on each side in its row; any other code gives
+   zelStatusBadMaskSize. */
+ZELAPI ZelStatus zeliFilterMedianHoriz_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianHoriz_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+
+/* FilterMedianVert: the median of the pixel and its one (mask code 13) or
+   two (15) neighbours above and below; any other code gives
+   zelStatusBadMaskSize. */
+ZELAPI ZelStatus zeliFilterMedianVert_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianVert_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+
+/* FilterMedianCross: the median over a cross centred on the pixel: its row
+   and its column of the 3x3 square (mask code 33: 5 values) or of the 5x5
+   square (55: 9 values); any other code gives zelStatusBadMaskSize. */
+ZELAPI ZelStatus zeliFilterMedianCross_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianCross_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+
+/* FilterMedianColor: the vector median of the 3x3 (mask code 33) or 5x5
+   (55) window centred on the pixel; any other code gives
+   zelStatusBadMaskSize. The channels are not ordered separately: the result
+   is the whole colour of one window pixel, the one whose sum of L1
+   distances to all the window's pixels (|dR| + |dG| + |dB|) is smallest;
+   among equal sums the first in scan order (rows top down, each left to
+   right) wins. The result is therefore always a colour that occurs in the
+   window, and a window of one colour gives that colour. 32f distances are
+   added in double precision, in scan order, under round-to-nearest
+   whatever the caller's mode; two equal values (infinities included) are
+   at distance 0, and a window whose sums are all NaN (a NaN in any
+   channel) gives its centre pixel. AC4 alpha is neither read nor written.
+   The 3x3 members share their rows among threads. */
+ZELAPI ZelStatus zeliFilterMedianColor_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianColor_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianColor_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianColor_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianColor_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+ZELAPI ZelStatus zeliFilterMedianColor_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliMaskCode mask);
+
+/* FilterMedianWeightedCenter3x3: the 3x3 median in which the centre value
+   counts `weight` times and each of the eight others once. Weight below 1
+   gives zelStatusBadWeight. An even weight is lowered by one and the call
+   returns zelStatusWarnEvenWeight instead of zelStatusOk (the result being
+   that of the odd weight). Weight 1 is the plain 3x3 median; weights 3, 5
+   and 7 take the median of 11, 13 or 15 values; from 9 on the centre
+   outweighs the other eight together, so the ROI is copied (zeliCopy_8u_C1R)
+   and a failing copy's status is returned. */
+ZELAPI ZelStatus zeliFilterMedianWeightedCenter3x3_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst,
+    int dstStep, ZeliSize roi, int weight);
+
 #ifdef __cplusplus
 }
 #endif

@@ -53,6 +53,11 @@ FIXED_FILTERS = ('SobelHoriz', 'SobelVert', 'SobelHorizMask', 'SobelVertMask', '
                  'RobertsDown', 'RobertsUp', 'Laplace', 'Gauss', 'Hipass', 'Lowpass', 'Sharpen')
 for fam in FIXED_FILTERS:
     STEP_CHECKS['Filter' + fam] = lambda t, lay: True
+# Medians: a mask code (Horiz and Vert with their own pair of codes), an odd
+# rectangle with an anchor inside it, or a centre weight.
+MEDIAN_CODES = {'FilterMedianHoriz': 'MaskCheck::horiz', 'FilterMedianVert': 'MaskCheck::vert'}
+for fam in ('Median', 'MedianHoriz', 'MedianVert', 'MedianCross', 'MedianColor', 'MedianWeightedCenter3x3'):
+    STEP_CHECKS['Filter' + fam] = lambda t, lay: True
 # Thresholds, comparisons and Otsu check their steps (Otsu: against the width).
 THRESHOLDS = ('Threshold', 'Threshold_LT', 'Threshold_GT', 'Threshold_Val', 'Threshold_LTVal', 'Threshold_GTVal',
               'Threshold_LTValGTVal')
@@ -244,6 +249,15 @@ def image_entry(name, params):
         elif pname == 'mask' and ptype == 'ZeliMaskCode':
             args.append('static_cast<ZeliMaskCode>(c.mask)')
             mask = 'MaskCheck::lenient' if family in LENIENT_MASKS and tsuf == '32f' else 'MaskCheck::strict'
+            mask = MEDIAN_CODES.get(family, mask)
+        elif pname == 'maskSize' and ptype == 'ZeliSize' and family == 'FilterMedian':
+            args.append('c.maskSize')
+            mask = 'MaskCheck::oddRect'
+        elif pname == 'anchor' and ptype == 'ZeliPoint' and family == 'FilterMedian':
+            args.append('c.anchor')
+        elif pname == 'weight' and ptype == 'int':
+            args.append('c.weight')
+            mask = 'MaskCheck::weight'
         elif pname == 'flags' and ptype == 'int':
             args.append('c.flags')
         elif pname in LIMIT_SLOTS and arr is not None:

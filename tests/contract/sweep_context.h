@@ -56,8 +56,17 @@ struct CallEntry;
 inline bool hasBorder(const CallEntry& e);
 
 // How a member checks its mask code: not at all (no mask), 33 and 55 only,
-// or 33 as 3x3 and any other value as 5x5.
-enum class MaskCheck { none, strict, lenient };
+// or 33 as 3x3 and any other value as 5x5; 31 and 51 only (horiz), 13 and 15
+// only (vert); an odd rectangle and an anchor inside it (oddRect); a weight
+// of at least 1 (weight).
+enum class MaskCheck { none, strict, lenient, horiz, vert, oddRect, weight };
+
+// The valid mask codes of a member that checks them: {3-long, 5-long}.
+inline std::array<int, 2> validCodes(MaskCheck m) {
+    if (m == MaskCheck::horiz) return {zelMaskCode3x1, zelMaskCode5x1};
+    if (m == MaskCheck::vert) return {zelMaskCode1x3, zelMaskCode1x5};
+    return {zelMaskCode3x3, zelMaskCode5x5};
+}
 
 // How a member checks its comparison op: not at all; 0 and 4 only, after
 // the other checks (Threshold) or before all of them (Threshold_Val); or an
@@ -128,6 +137,9 @@ public:
     bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
     int bitSize = 7;               // palettes
     int alphaValue = 200;          // palettes from three channels to four
+    ZeliSize maskSize{3, 3};
+    ZeliPoint anchor{1, 1};
+    int weight = 1;
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -138,7 +150,10 @@ public:
         top = left = grow;
         scaleFactor = 1;
         rndMode = 1;
-        mask = zelMaskCode3x3;
+        mask = validCodes(entry.maskCheck)[0];
+        maskSize = {3, 3};
+        anchor = {1, 1};
+        weight = 1;
         flags = 0;
         val = 200;
         cmpOp = entry.opCheck == OpCheck::thresholdLast || entry.opCheck == OpCheck::thresholdFirst ? 4 : 1;
@@ -208,7 +223,12 @@ public:
                               : std::uniform_int_distribution<int>(-4, 34)(rng);
         rndMode = std::uniform_int_distribution<int>(0, 2)(rng);
         mask = entry_->maskCheck == MaskCheck::lenient && extreme ? static_cast<int>(rng())
-               : rng() % 2 ? zelMaskCode3x3 : zelMaskCode5x5;
+               : validCodes(entry_->maskCheck)[rng() % 2];
+        // Odd sides up to 7 (every dispatch path of the rectangle median),
+        // the anchor anywhere inside; weights around the rules' edges.
+        maskSize = {static_cast<int>(rng() % 4) * 2 + 1, static_cast<int>(rng() % 4) * 2 + 1};
+        anchor = {static_cast<int>(rng() % maskSize.width), static_cast<int>(rng() % maskSize.height)};
+        weight = static_cast<int>(rng() % 12) + 1;
         flags = static_cast<int>(rng());
         val = static_cast<Zel8u>(rng());
         if (entry_->opCheck == OpCheck::thresholdLast || entry_->opCheck == OpCheck::thresholdFirst)
@@ -422,7 +442,11 @@ public:
             for (int n : levelCounts_) s += " " + std::to_string(n);
             s += " nBitSize " + std::to_string(bitSize) + " alpha " + std::to_string(alphaValue);
         }
-        if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
+        if (entry_->maskCheck == MaskCheck::oddRect)
+            s += " mask " + std::to_string(maskSize.width) + "x" + std::to_string(maskSize.height) + " anchor " +
+                 std::to_string(anchor.x) + "," + std::to_string(anchor.y);
+        else if (entry_->maskCheck == MaskCheck::weight) s += " weight " + std::to_string(weight);
+        else if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
         if (entry_->orderLength > 0) {
             s += " order";
             for (int k = 0; k < entry_->orderLength; ++k) s += " " + std::to_string(order_[k]);

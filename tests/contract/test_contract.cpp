@@ -108,6 +108,21 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (int mask : {35, 53, 13, 0, -1})
             list.push_back({"mask " + std::to_string(mask), zelStatusBadMaskSize,
                             [mask](SweepContext& c) { c.mask = mask; }});
+    if (e.maskCheck == MaskCheck::horiz || e.maskCheck == MaskCheck::vert)
+        for (int mask : {35, 33, e.maskCheck == MaskCheck::horiz ? 13 : 31, 0, -1})
+            list.push_back({"mask " + std::to_string(mask), zelStatusBadMaskSize,
+                            [mask](SweepContext& c) { c.mask = mask; }});
+    if (e.maskCheck == MaskCheck::oddRect) {
+        for (ZeliSize m : {ZeliSize{4, 3}, ZeliSize{3, 2}, ZeliSize{0, 3}, ZeliSize{3, -1}})
+            list.push_back({"maskSize " + std::to_string(m.width) + "x" + std::to_string(m.height),
+                            zelStatusBadMaskSize, [m](SweepContext& c) { c.maskSize = m; c.anchor = {0, 0}; }});
+        for (ZeliPoint a : {ZeliPoint{3, 1}, ZeliPoint{1, 3}, ZeliPoint{-1, 0}, ZeliPoint{0, -1}})
+            list.push_back({"anchor " + std::to_string(a.x) + "," + std::to_string(a.y), zelStatusBadAnchor,
+                            [a](SweepContext& c) { c.maskSize = {3, 3}; c.anchor = a; }});
+    }
+    if (e.maskCheck == MaskCheck::weight)
+        for (int w : {0, -1, INT_MIN})
+            list.push_back({"weight " + std::to_string(w), zelStatusBadWeight, [w](SweepContext& c) { c.weight = w; }});
     // Threshold ops other than 0 and 4: rejected after the other checks, or
     // before them (Threshold_Val: even with a null image).
     if (e.opCheck == OpCheck::thresholdLast || e.opCheck == OpCheck::thresholdFirst) {
