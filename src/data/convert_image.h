@@ -15,6 +15,7 @@
 #include "core/simd.h"
 #include "core/streaming.h"
 #include "data/convert_rules.h"
+#include "data/copy_rows.h"
 #include "zeli.h"
 
 namespace zel::convert {
@@ -22,8 +23,14 @@ namespace zel::convert {
 // Pieces of a long row start on multiples of this many pixels.
 constexpr std::ptrdiff_t kGrainPixels = 256;
 
-// Whether a result of `bytes` bytes is stored past the caches.
-inline bool streamsResult(std::int64_t bytes) { return bytes > kStreamStoreBytes; }
+// Whether a result of `bytes` bytes is stored past the caches: above the
+// library's threshold and not small enough to stay in the largest cache
+// (at least half of it), where the next operation would find it.
+inline bool streamsResult(std::int64_t bytes) {
+    if (bytes <= kStreamStoreBytes) return false;
+    const int cache = largestCacheBytes();
+    return cache == 0 || bytes >= cache / 2;
+}
 
 // Converts the ROI by rule R; the checks have passed. Floating-point rules
 // run under the standard environment, whatever the caller's control word.

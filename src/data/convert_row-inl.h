@@ -133,8 +133,9 @@ HWY_INLINE auto Apply(V x, const convert::Params& p) {
 template <class Src, class Dst, convert::Rule R>
 void ConvertRows(const Src* HWY_RESTRICT src, int srcStep, Dst* HWY_RESTRICT dst, int dstStep,
                  std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, int channels, bool alpha,
-                 const convert::Params& p, bool stream) {
+                 const convert::Params& params, bool stream) {
     using namespace convert_detail;
+    const convert::Params p = params;  // a local copy: the stores cannot alias it
     const DI di;
     const hn::Rebind<Src, DI> ds;
     const hn::Rebind<Dst, DI> dd;
@@ -186,6 +187,16 @@ void ConvertRows(const Src* HWY_RESTRICT src, int srcStep, Dst* HWY_RESTRICT dst
                     hn::Stream(Apply<Src, Dst, R>(hn::LoadU(ds, s + x), p), dd, d + x);
             }
         } else {
+            for (; limit - x >= 4 * lanes; x += 4 * lanes) {
+                const auto v0 = Apply<Src, Dst, R>(hn::LoadU(ds, s + x), p);
+                const auto v1 = Apply<Src, Dst, R>(hn::LoadU(ds, s + x + lanes), p);
+                const auto v2 = Apply<Src, Dst, R>(hn::LoadU(ds, s + x + 2 * lanes), p);
+                const auto v3 = Apply<Src, Dst, R>(hn::LoadU(ds, s + x + 3 * lanes), p);
+                hn::StoreU(v0, dd, d + x);
+                hn::StoreU(v1, dd, d + x + lanes);
+                hn::StoreU(v2, dd, d + x + 2 * lanes);
+                hn::StoreU(v3, dd, d + x + 3 * lanes);
+            }
             for (; limit - x >= lanes; x += lanes) hn::StoreU(Apply<Src, Dst, R>(hn::LoadU(ds, s + x), p), dd, d + x);
         }
         if (limit > x) partial(s, d, x, limit - x);

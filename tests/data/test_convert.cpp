@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -307,11 +308,13 @@ TEST(Scale, FastAndAccurateFormulasOverEveryInput) {
     }
 }
 
-// Results above the streaming threshold, contiguous (one long row) and
-// padded, from unaligned starts.
+// Results above the streaming threshold and half the largest cache,
+// contiguous (one long row) and padded, from unaligned starts.
 TEST(Convert, LargeResultsStreamWithTheSameBits) {
+    int cache = 0;
+    ASSERT_EQ(zelGetMaxCacheSizeB(&cache), zelStatusOk);
     for (int pad : {0, 12}) {
-        const ZeliSize roi{1201, 900};
+        const ZeliSize roi{1201, std::max(900, cache / 2 / (1201 * 4) + 1)};
         const int srcStep = roi.width + pad, dstStep = roi.width * 4 + pad;
         std::vector<Zel8u> src(std::size_t(srcStep) * roi.height);
         std::vector<Zel8u> bytes(std::size_t(dstStep) * roi.height + 8, 0xA5);
