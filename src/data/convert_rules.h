@@ -14,13 +14,14 @@ enum class Rule {
     Truncate,       // 32f to integer: clamp, round toward zero
     NearestEven,    // 32f to integer: clamp, round to nearest even
     HalfAway,       // 32f to integer: min with the top, add 1/2 with the sign, truncate, saturate
-    ShiftScale16,   // ((y - (y >> 8)) >> 8) + 128 with y = x + offset
+    ShiftScale16,   // ((y - (y >> 8)) >> 8) + 128 with y = x (16s) or x - 32768 (16u)
     ShiftScale32,   // ((x - (x >> 8)) >> 24) + 128
     FloatScale16,   // round((x + offset) * k) in single precision
     DoubleScale32,  // round(x * dk + db) in double precision
     Repeat,         // x * multiplier + addend, wrapping in 32 bits
     ToFloatRange,   // x * k + b in single precision
     FromFloatRange, // round(max(min(x, hi), lo) * k + b) in single precision, NaN as 0
+    FromFiniteRange, // the same with finite limits, factor and offset (no NaN can arise)
 };
 
 // Whether a rule computes in floating point (and so runs under the

@@ -13,6 +13,7 @@
 
 #if HWY_ONCE
 
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -63,7 +64,6 @@ ZelStatus scaleDown(const Src* pSrc, int srcStep, Zel8u* pDst, int dstStep, Zeli
         if constexpr (std::is_same_v<Src, Zel32s>) {
             convert::convertImage<Src, Zel8u, Rule::ShiftScale32, L>(pSrc, srcStep, pDst, dstStep, roi, p);
         } else {
-            p.offset = std::is_same_v<Src, Zel16u> ? -32768 : 0;
             convert::convertImage<Src, Zel8u, Rule::ShiftScale16, L>(pSrc, srcStep, pDst, dstStep, roi, p);
         }
         return zelStatusOk;
@@ -119,7 +119,10 @@ ZelStatus scaleFromRange(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstSt
     }
     if (ZelStatus st = Check().that(!empty, zelStatusEmptyRange).ptrs(pSrc, pDst).roi(roi).steps(srcStep, dstStep))
         return st;
-    convert::convertImage<Zel32f, Zel8u, Rule::FromFloatRange, L>(pSrc, srcStep, pDst, dstStep, roi, p);
+    if (std::isfinite(p.lo) && std::isfinite(p.hi) && std::isfinite(p.k) && std::isfinite(p.b))
+        convert::convertImage<Zel32f, Zel8u, Rule::FromFiniteRange, L>(pSrc, srcStep, pDst, dstStep, roi, p);
+    else
+        convert::convertImage<Zel32f, Zel8u, Rule::FromFloatRange, L>(pSrc, srcStep, pDst, dstStep, roi, p);
     if (convert::roundingField(saved) != kSseRoundNearest) zel_set_cw_ssx(saved);
     return zelStatusOk;
 }
