@@ -91,9 +91,12 @@ HWY_INLINE auto Map(V x, const convert::Params& p) {
     } else if constexpr (R == Rule::Saturate) {
         return ToInt32<Src>(x);
     } else if constexpr (R == Rule::Truncate) {
-        return ConvertInRange<true>(ClampMinFirst(x, hn::Set(df, p.lo), hn::Set(df, p.hi)));
+        // The maximum with the lowest value is left to the narrowing's
+        // saturation: rounding is monotonic and the limit an integer, so
+        // saturating the rounded value gives the rounded clamped value.
+        return ConvertInRange<true>(hn::Min(x, hn::Set(df, p.hi)));
     } else if constexpr (R == Rule::NearestEven) {
-        return ConvertInRange<false>(ClampMinFirst(x, hn::Set(df, p.lo), hn::Set(df, p.hi)));
+        return ConvertInRange<false>(hn::Min(x, hn::Set(df, p.hi)));
     } else if constexpr (R == Rule::HalfAway) {
         const auto v = hn::Min(x, hn::Set(df, p.hi));
         // -inf (and values below the int range) truncate to the lowest
@@ -134,8 +137,9 @@ HWY_INLINE auto Map(V x, const convert::Params& p) {
 // Rules whose values always lie in the destination's range: their
 // narrowing needs no clamp.
 template <convert::Rule R>
-inline constexpr bool kInRange =
-    R != convert::Rule::Saturate && R != convert::Rule::HalfAway && R != convert::Rule::FromFiniteRange;
+inline constexpr bool kInRange = R != convert::Rule::Saturate && R != convert::Rule::HalfAway &&
+                                 R != convert::Rule::Truncate && R != convert::Rule::NearestEven &&
+                                 R != convert::Rule::FromFiniteRange;
 
 template <class Src, class Dst, convert::Rule R, class V>
 HWY_INLINE auto Apply(V x, const convert::Params& p) {
