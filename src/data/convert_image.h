@@ -43,7 +43,9 @@ void convertImage(const Src* pSrc, int srcStep, Dst* pDst, int dstStep, ZeliSize
     const Rows rows = kAlpha ? rowsOf(roi) : collapseRows(roi, {{srcStep, srcRow}, {dstStep, dstRow}});
     const std::int64_t resultBytes = dstRow * roi.height;
     const bool stream = streamsResult(resultBytes);
-    const int team = teamSize(srcRow * roi.height + resultBytes, usesFloat(R) ? kCostWiden : kCostMove,
+    // Every rule runs at about a copy's speed per byte (the narrowing is the
+    // costliest part, and it is packed), so the weight is a copy's.
+    const int team = teamSize(srcRow * roi.height + resultBytes, kCostMove,
                               pieceCount(rows.height, rows.width, kGrainPixels));
     const auto kernel = ZEL_DISPATCH(ConvertRows<Src, Dst, R>);
     auto run = [&] {
