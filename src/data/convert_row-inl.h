@@ -1,14 +1,16 @@
 // Per-target row kernel of the type conversions (included by the Convert
 // and Scale family files inside their Highway target loop).
 //
-// Every element pair is worked in 32-bit lanes: a vector of the source type
-// with as many lanes as a full vector of 32-bit lanes is loaded, widened to
-// 32-bit integers (or read as 32f), mapped by the rule and narrowed to the
+// A vector of the source type with as many lanes as a full vector of the
+// working lanes is loaded, widened, mapped by the rule and narrowed to the
 // destination type with saturation (SaturatingNarrow clamps first). The
-// double-precision rule splits the lanes into two halves. The head that
-// aligns streamed stores and the tail of a row run the same vector code on
-// a vector loaded with only the row's elements, so every element gets the
-// same bits wherever it lies.
+// working lanes are 16-bit for pairs of 8- and 16-bit types whose rule
+// stays within 16 bits, 32-bit (int32 or 32f) otherwise; 8-bit results of
+// 32-bit lanes are packed four vectors at a time, and the double-precision
+// rule splits the lanes into two halves. The head that aligns streamed
+// stores and the tail of a row run the same vector code on a vector loaded
+// with only the row's elements, so every element gets the same bits
+// wherever it lies.
 #if defined(ZEL_DATA_CONVERT_ROW_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef ZEL_DATA_CONVERT_ROW_INL_H_
 #undef ZEL_DATA_CONVERT_ROW_INL_H_
