@@ -296,6 +296,41 @@ int main(int argc, char** argv) {
         save("denoised.png", clean, cleanStep, size, 3);
         zeliFree(clean);
         zeliFree(noisy);
+    /* Conversions: the picture to 32f, a gamma-like brightening in floating
+       point (x * x / 255 mixed with x), and back to 8u with each rounding
+       mode; then a 1-bit dithered copy of the green channel, unpacked. */
+    {
+        int floatStep, backStep, bitsStep, ditherStep;
+        Zel32f* light = zeliMalloc_32f_C3(size.width, size.height, &floatStep);
+        Zel32f* squared = zeliMalloc_32f_C3(size.width, size.height, &floatStep);
+        Zel8u* back = zeliMalloc_8u_C3(size.width, size.height, &backStep);
+        Zel8u* bits = zeliMalloc_8u_C1((size.width + 7) / 8, size.height, &bitsStep);
+        Zel8u* dither = zeliMalloc_8u_C1(size.width, size.height, &ditherStep);
+        const Zel32f inverse[3] = {1.0f / 255, 1.0f / 255, 1.0f / 255};
+        const Zel32f half[3] = {0.5f, 0.5f, 0.5f};
+        const char* names[3] = {"converted_zero.png", "converted_even.png", "converted_away.png"};
+        const ZelRoundingMode modes[3] = {zelRoundTowardZero, zelRoundNearestEven, zelRoundHalfAway};
+        int m;
+        if (!light || !squared || !back || !bits || !dither) return 1;
+        STEP("Convert_8u32f_C3R: the picture to 32f", zeliConvert_8u32f_C3R(rgb, rgbStep, light, floatStep, size));
+        STEP("Mul_32f_C3R: x * x", zeliMul_32f_C3R(light, floatStep, light, floatStep, squared, floatStep, size));
+        STEP("MulC_32f_C3IR: / 255", zeliMulC_32f_C3IR(inverse, squared, floatStep, size));
+        STEP("Add_32f_C3IR: + x", zeliAdd_32f_C3IR(light, floatStep, squared, floatStep, size));
+        STEP("MulC_32f_C3IR: / 2", zeliMulC_32f_C3IR(half, squared, floatStep, size));
+        for (m = 0; m < 3; ++m) {
+            STEP("Convert_32f8u_C3R: back to 8u", zeliConvert_32f8u_C3R(squared, floatStep, back, backStep, size, modes[m]));
+            save(names[m], back, backStep, size, 3);
+        }
+        STEP("Convert_8u1u_C1R: green channel dithered to 1 bit",
+             zeliConvert_8u1u_C1R(greyInside, greyStep, bits, bitsStep, 0, size, 128));
+        STEP("Convert_1u8u_C1R: the bits back to 0 and 255",
+             zeliConvert_1u8u_C1R(bits, bitsStep, 0, dither, ditherStep, size));
+        save("dithered.png", dither, ditherStep, size, 1);
+        zeliFree(dither);
+        zeliFree(bits);
+        zeliFree(back);
+        zeliFree(squared);
+        zeliFree(light);
     }
 
     zeliFree(brighter);

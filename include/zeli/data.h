@@ -538,6 +538,186 @@ ZELAPI ZelStatus zeliLUTPalette_8u_C3A0C4R(const Zel8u* pSrc, int srcStep, int a
 ZELAPI ZelStatus zeliLUTPalette_16u_C3A0C4R(const Zel16u* pSrc, int srcStep, int alphaValue, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u* const pTable[3], int nBitSize);
 ZELAPI ZelStatus zeliLUTPaletteSwap_8u_C3A0C4R(const Zel8u* pSrc, int srcStep, int alphaValue, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u* const pTable[3], int nBitSize);
 
+/* Convert: change the element type, keeping the value. All members check
+   null pointers (-8), then the ROI size (-6), then both steps (-14).
+   Widening pairs are exact; integer narrowing saturates to the destination
+   range. AC4 members convert channels 0-2 and leave the destination alpha
+   untouched (it is not read either). Rows whose steps equal their length
+   are worked as one row.
+
+   32f sources: each value is clamped as max(min(x, HI), LO) with the
+   destination's limits, the minimum first, so NaN gives HI; then rounded
+   by roundMode: zelRoundTowardZero (0) truncates, zelRoundNearestEven (1)
+   rounds to nearest with ties to even, and every other value, none of
+   which is rejected, rounds half away from zero: the value after the
+   minimum with HI gets 0.5 added with its own sign in single precision,
+   is truncated and saturated to the range. That addition rounds, so the
+   one value just below a half whose sum is inexact, 0.49999997f (and its
+   negative), becomes 1 (-1); every other value rounds as half-away says.
+   For modes 0 and 1 the call sets the vector unit's rounding control
+   (toward zero, nearest) after the checks and writes the caller's control
+   word back at the end only when its rounding field was a different one;
+   other modes leave the control word as it is. The results never depend
+   on the caller's rounding mode, flush-to-zero or denormals-are-zero
+   setting. */
+
+
+ZELAPI ZelStatus zeliConvert_8u16u_C1R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16u_C3R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16u_C4R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16u_AC4R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16s_C1R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16s_C3R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16s_C4R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u16s_AC4R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32s_C1R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32s_C3R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32s_C4R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32s_AC4R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32s_C1R(const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32s_C3R(const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32s_C4R(const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32s_AC4R(const Zel8s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32s_C1R(const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32s_C3R(const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32s_C4R(const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32s_AC4R(const Zel16s* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32s_C1R(const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32s_C3R(const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32s_C4R(const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32s_AC4R(const Zel16u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32f_C1R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32f_C3R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32f_C4R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8u32f_AC4R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32f_C1R(const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32f_C3R(const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32f_C4R(const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_8s32f_AC4R(const Zel8s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32f_C1R(const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32f_C3R(const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32f_C4R(const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s32f_AC4R(const Zel16s* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32f_C1R(const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32f_C3R(const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32f_C4R(const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u32f_AC4R(const Zel16u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u8u_C1R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u8u_C3R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u8u_C4R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16u8u_AC4R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s8u_C1R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s8u_C3R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s8u_C4R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_16s8u_AC4R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8u_C1R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8u_C3R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8u_C4R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8u_AC4R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8s_C1R(const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8s_C3R(const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8s_C4R(const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32s8s_AC4R(const Zel32s* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliConvert_32f8u_C1R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_C3R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_C4R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8u_AC4R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_C1R(const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_C3R(const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_C4R(const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f8s_AC4R(const Zel32f* pSrc, int srcStep, Zel8s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_C1R(const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_C3R(const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_C4R(const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16s_AC4R(const Zel32f* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_C1R(const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_C3R(const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_C4R(const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+ZELAPI ZelStatus zeliConvert_32f16u_AC4R(const Zel32f* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi, ZelRoundingMode roundMode);
+
+/* Convert_8u1u: packs an 8-bit image into one bit a pixel by error
+   diffusion. For each pixel v = x * 8192 + 23 * S, S the stored errors of
+   the pixels already visited weighted 8, 4 (one and two back in the row),
+   2 4 8 4 2 (the row above, offsets -2..+2) and 1 2 4 2 1 (two rows
+   above); the bit is set when v > threshold * 8192, and the stored error
+   is (v >> 10) - 2047 for a set bit, v >> 10 otherwise. Errors outside the
+   image count as 0. The bits of a row start at bit dstBitOffset % 8 of the
+   row's first byte (the most significant bit first): whole bytes of the
+   offset are not skipped, so an offset of 9 acts as 1. Bits before the
+   offset and after the row's end keep their values. The rule is the one
+   above for every image: threshold 255 sets no bit in a dark image, but
+   the errors a bright image gathers do set bits even then, and an image
+   of 255 with threshold 0 sets every bit. Checks: null -8, ROI size or a
+   negative offset -6; steps are not checked (a negative step walks
+   upwards); -9 when the three error rows cannot be allocated. */
+
+ZELAPI ZelStatus zeliConvert_8u1u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, int dstBitOffset, ZeliSize roi, Zel8u threshold);
+
+/* Convert_1u8u: unpacks a 1-bit image, 255 for a set bit and 0 for a
+   clear one. A row starts srcBitOffset / 8 bytes after the row's address,
+   at bit srcBitOffset % 8 (the most significant bit first). Checks: null
+   -8, ROI size -6, steps -14, a negative offset -6 (last). */
+
+ZELAPI ZelStatus zeliConvert_1u8u_C1R(const Zel8u* pSrc, int srcStep, int srcBitOffset, Zel8u* pDst, int dstStep, ZeliSize roi);
+
+/* Scale: maps the whole range of the source type onto the whole range of
+   the destination type. Checks: null -8, ROI size -6, steps -14; the
+   range members check the range first (-13 when vMax - vMin is not above
+   0, even with null pointers). AC4 leaves the destination alpha alone.
+
+   8u16u: x * 257; 8u16s: x * 257 - 32768; 8u32s: x * 16843009 - 2^31.
+   16s8u, 16u8u, 32s8u with any hint but zelAccuracyHigh (2), in integers
+   with arithmetic shifts: ((x - (x >> 8)) >> 8) + 128 for 16s,
+   the same of x - 32768 for 16u, ((x - (x >> 8)) >> 24) + 128 for 32s.
+   With hint 2, to nearest with ties to even: (x + 32768) * K (16s) and
+   x * K (16u) in single precision, K = 0x3B7F00FF (the float nearest to
+   255/65535), and x * (255 / 4294967295) + 2^31 * 255 / 4294967295 in
+   double precision (32s); the call sets the rounding control to nearest
+   after the checks and writes the caller's word back only if its rounding
+   field was another. The two 16s formulas differ for 128 inputs.
+   8u32f: x * ((vMax - vMin) / 255) + vMin in single precision.
+   32f8u: with k = 255 / (vMax - vMin) and b = -k * vMin in single
+   precision, round(max(min(x, vMax), vMin) * k + b) to nearest even,
+   saturated to 0..255 (NaN gives vMax; a result that is NaN because the
+   range is infinite gives 0). It sets the rounding control to nearest
+   before any check and leaves it so when a check fails; after a call that
+   ran, the caller's word comes back only if its rounding field was
+   another. Results never depend on the caller's floating-point settings. */
+
+
+ZELAPI ZelStatus zeliScale_8u16u_C1R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16u_C3R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16u_C4R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16u_AC4R(const Zel8u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16s_C1R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16s_C3R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16s_C4R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u16s_AC4R(const Zel8u* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u32s_C1R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u32s_C3R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u32s_C4R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_8u32s_AC4R(const Zel8u* pSrc, int srcStep, Zel32s* pDst, int dstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliScale_16s8u_C1R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16s8u_C3R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16s8u_C4R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16s8u_AC4R(const Zel16s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16u8u_C1R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16u8u_C3R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16u8u_C4R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_16u8u_AC4R(const Zel16u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_32s8u_C1R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_32s8u_C3R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_32s8u_C4R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_32s8u_AC4R(const Zel32s* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, ZelAccuracyHint hint);
+ZELAPI ZelStatus zeliScale_8u32f_C1R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_8u32f_C3R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_8u32f_C4R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_8u32f_AC4R(const Zel8u* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_C1R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_C3R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_C4R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+ZELAPI ZelStatus zeliScale_32f8u_AC4R(const Zel32f* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi, Zel32f vMin, Zel32f vMax);
+
 #ifdef __cplusplus
 }
 #endif

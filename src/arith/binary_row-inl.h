@@ -30,6 +30,7 @@
 
 #include "arith/scale.h"
 #include "core/image.h"
+#include "core/narrow-inl.h"
 #include "core/pixel.h"
 #include "core/store_under_mask-inl.h"
 
@@ -114,23 +115,6 @@ HWY_INLINE auto Widen(DW dw, V v) {
         return v;
     } else {
         return hn::PromoteTo(dw, v);
-    }
-}
-
-// Back to the element type with saturation. The value is clamped to the
-// type's range first, so the demotion itself never has to saturate (not
-// every target's demotion saturates unsigned 8-bit results correctly).
-template <class DN, class DW, class V>
-HWY_INLINE auto Narrow(DN dn, DW dw, V v) {
-    using T = hn::TFromD<DN>;
-    using W = hn::TFromD<DW>;
-    if constexpr (std::is_same_v<T, W>) {
-        return v;
-    } else {
-        const hn::RebindToSigned<DW> di;
-        if constexpr (std::is_signed_v<W>) v = hn::Max(v, hn::Set(dw, W(std::numeric_limits<T>::min())));
-        v = hn::Min(v, hn::Set(dw, W(std::numeric_limits<T>::max())));
-        return hn::DemoteTo(dn, hn::BitCast(di, v));
     }
 }
 
@@ -229,7 +213,7 @@ HWY_INLINE void BinaryRow(const T* p, const T* q, bool qPattern, T* dst, std::pt
                 const auto wrapped = hn::Eq(v, hn::Set(dw, std::numeric_limits<W>::min()));
                 scaled = hn::IfThenElse(wrapped, hn::Set(dw, W(args.imagTop)), scaled);
             }
-            return Narrow(dn, dw, scaled);
+            return SaturatingNarrow(dn, dw, scaled);
         }
     };
     // The lanes of vector j of the pattern that belong to the result.

@@ -218,6 +218,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/image.h"
 #include "core/parallel.h"
 #include "core/simd.h"
+#include "core/streaming.h"
 
 namespace zel::div {
 namespace {
@@ -242,10 +243,6 @@ std::int64_t divideComplexRows(const T* divisor, std::ptrdiff_t divisorStep, con
     }
     return warnings;
 }
-
-// Results larger than this many bytes are stored past the caches (where a
-// kernel can), like large fills: they would only evict the operands.
-constexpr std::int64_t kStreamBytes = 4194304;
 
 template <class T, bool Alpha>
 auto rowKernel() {
@@ -284,7 +281,7 @@ std::int64_t divideImage(Divisor<T> divisor, const T* dividend, int dividendStep
     const auto row = rowKernel<T, kAlpha>();
     const int s = bandScale<T>(scale);
     const std::int64_t imageBytes = rowBytes * roi.height;
-    const bool stream = imageBytes > kStreamBytes;
+    const bool stream = imageBytes > kStreamStoreBytes;
     const int team = teamSize(imageBytes * (divisor.pattern ? 2 : 3), forkCost<T>(),
                               pieceCount(work.height, length, kGrain));
     std::atomic<std::int64_t> warnings{0};

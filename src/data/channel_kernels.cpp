@@ -307,7 +307,7 @@ HWY_AFTER_NAMESPACE();
 
 namespace zel {
 
-bool planarStreams(std::int64_t interleavedBytes) { return interleavedBytes > kPlanarStreamBytes; }
+bool planarStreams(std::int64_t interleavedBytes) { return interleavedBytes > kStreamStoreBytes; }
 
 template <class B, int SC, int DC, class Order>
 void shuffleImage(const B* src, int srcStep, B* dst, int dstStep, ZeliSize roi,

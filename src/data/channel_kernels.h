@@ -9,6 +9,7 @@
 
 #include <cstdint>
 
+#include "core/streaming.h"
 #include "zeli.h"
 
 namespace zel {
@@ -56,8 +57,7 @@ void maskedFillImage(const B* value, B* dst, int dstStep, ZeliSize roi, const Ze
 
 // Interleaved C channels to C planes sharing one step, and back. With
 // `stream` the stores bypass the caches, as planarStreams() decides for
-// images of more than kPlanarStreamBytes (interleaved size).
-constexpr std::int64_t kPlanarStreamBytes = 2097152;
+// images of more than kStreamStoreBytes (interleaved size).
 bool planarStreams(std::int64_t interleavedBytes);
 template <class B, int C>
 void splitImage(const B* src, int srcStep, B* const planes[], int planeStep, ZeliSize roi, bool stream);

@@ -54,6 +54,7 @@ HWY_AFTER_NAMESPACE();
 
 #include "core/image.h"
 #include "core/simd.h"
+#include "core/streaming.h"
 
 namespace zel {
 
@@ -61,7 +62,7 @@ CopyPlan planCopy(std::int64_t rowBytes, std::ptrdiff_t height, int srcStep, int
     const std::int64_t total = rowBytes * height;
     const bool contiguous = height > 1 && srcStep == rowBytes && dstStep == rowBytes;
     if (contiguous && total > INT_MAX) return {rowBytes, height, true};
-    const bool stream = maxCacheBytes > 0 && total >= kCopyStreamBytes && 2 * total >= maxCacheBytes;
+    const bool stream = maxCacheBytes > 0 && total > kStreamStoreBytes && 2 * total >= maxCacheBytes;
     if (contiguous) return {total, 1, stream};
     return {rowBytes, height, stream};
 }

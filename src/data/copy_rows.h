@@ -13,17 +13,15 @@
 
 namespace zel {
 
-// Copies of at least this many bytes, and at least half the largest cache,
-// use non-temporal stores.
-constexpr std::int64_t kCopyStreamBytes = 2097152;
-
 struct CopyPlan {
     std::int64_t rowBytes;  // bytes per row after collapsing
     std::ptrdiff_t height;  // rows after collapsing
     bool stream;            // non-temporal stores
 };
 
-// maxCacheBytes is the largest cache's size, 0 when unknown (never stream).
+// Copies of more than kStreamStoreBytes (core/streaming.h) that are at
+// least half the largest cache use non-temporal stores. maxCacheBytes is
+// the largest cache's size, 0 when unknown (never stream).
 // Contiguous rows whose total byte count does not fit an int are not
 // collapsed and always stream.
 CopyPlan planCopy(std::int64_t rowBytes, std::ptrdiff_t height, int srcStep, int dstStep, int maxCacheBytes);

@@ -86,6 +86,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/image.h"
 #include "core/pixel.h"
 #include "core/simd.h"
+#include "core/streaming.h"
 #include "data/channel_kernels.h"
 #include "data/copy_rows.h"
 
@@ -95,11 +96,9 @@ namespace {
 // Fills larger than this many bytes bypass the caches, unless the image
 // would fit in the largest cache (filling it through the cache is faster
 // then, and leaves the result where the next operation reads it).
-constexpr std::int64_t kSetStreamBytes = 4194304;
-
 bool streamFill(std::int64_t bytes) {
     const int cache = largestCacheBytes();
-    return bytes > kSetStreamBytes && (cache == 0 || bytes >= cache / 2);
+    return bytes > kStreamStoreBytes && (cache == 0 || bytes >= cache / 2);
 }
 
 template <class T, Layout L>

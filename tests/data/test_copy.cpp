@@ -6,6 +6,7 @@
 
 #include "core/pixel.h"
 #include "data/channel_kernels.h"
+#include "core/streaming.h"
 #include "data/copy_rows.h"
 #include "moves.h"
 
@@ -73,11 +74,12 @@ TEST(CopyPaths, PlanFollowsTheThresholds) {
         {"padded rows stay rows", 100, 10, 128, 100, 0, {100, 10, false}},
         {"contiguous rows collapse", 100, 10, 100, 100, 0, {1000, 1, false}},
         {"one row never collapses", 100, 1, 7, 7, 0, {100, 1, false}},
-        {"2 MiB, cache unknown", 2 * mib, 1, 0, 0, 0, {2 * mib, 1, false}},
-        {"2 MiB, half of a 4 MiB cache", 1024, 2048, 1024, 1024, 4 * mib, {2 * mib, 1, true}},
-        {"2 MiB, under half of the cache", 1024, 2048, 1024, 1024, 4 * mib + 2, {2 * mib, 1, false}},
-        {"one byte under 2 MiB", 2 * mib - 1, 1, 0, 0, 1024, {2 * mib - 1, 1, false}},
-        {"padded rows stream too", 1024, 4096, 2048, -2048, 8 * mib, {1024, 4096, true}},
+        {"4 MiB + 1, cache unknown", 4 * mib + 1, 1, 0, 0, 0, {4 * mib + 1, 1, false}},
+        {"4 MiB + 1 KiB, half of the cache", 1024, 4097, 1024, 1024, 8 * mib + 2048, {4 * mib + 1024, 1, true}},
+        {"4 MiB + 1 KiB, under half of the cache", 1024, 4097, 1024, 1024, 8 * mib + 2050,
+         {4 * mib + 1024, 1, false}},
+        {"exactly the threshold", 4 * mib, 1, 0, 0, 1024, {4 * mib, 1, false}},
+        {"padded rows stream too", 1024, 8192, 2048, -2048, 8 * mib, {1024, 8192, true}},
         {"collapse would overflow", 65536, 32768, 65536, 65536, 0, {65536, 32768, true}},
         {"largest collapse", INT_MAX, 1, INT_MAX, INT_MAX, 0, {INT_MAX, 1, false}},
     };
@@ -87,8 +89,8 @@ TEST(CopyPaths, PlanFollowsTheThresholds) {
         EXPECT_EQ(std::tie(plan.rowBytes, plan.height, plan.stream),
                   std::tie(c.want.rowBytes, c.want.height, c.want.stream));
     }
-    EXPECT_FALSE(zel::planarStreams(zel::kPlanarStreamBytes));
-    EXPECT_TRUE(zel::planarStreams(zel::kPlanarStreamBytes + 1));
+    EXPECT_FALSE(zel::planarStreams(zel::kStreamStoreBytes));
+    EXPECT_TRUE(zel::planarStreams(zel::kStreamStoreBytes + 1));
 }
 
 }  // namespace
