@@ -125,6 +125,7 @@ public:
     int cmpOp = 0;
     Zel32f eps = 1.f;
     bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
+    int alphaType = 0;             // alpha compositing: zelCompositeOver ... PlusPremultiplied
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -141,6 +142,7 @@ public:
         cmpOp = entry.opCheck == OpCheck::thresholdLast || entry.opCheck == OpCheck::thresholdFirst ? 4 : 1;
         eps = 1.f;
         crossThresholds = false;
+        alphaType = 0;
         outByte_ = outBefore_ = 0xa5;
         nullOperand_ = nullPlane_ = -100;
         aliasSource_ = aliasTarget_ = -1;
@@ -211,6 +213,7 @@ public:
             for (int k = 0; k < entry_->orderLength; ++k)
                 order_[k] = std::uniform_int_distribution<int>(0, range - 1)(rng);
         }
+        alphaType = static_cast<int>(rng() % 12);
     }
 
     // The thunks' view.
@@ -351,6 +354,7 @@ public:
         if (entry_->opCheck != OpCheck::none) s += " cmpOp " + std::to_string(cmpOp);
         if (entry_->hasEps) s += " eps " + std::to_string(eps);
         if (crossThresholds) s += " (crossed thresholds)";
+        if (std::strncmp(entry_->family, "AlphaComp", 9) == 0) s += " alphaType " + std::to_string(alphaType);
         if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
         if (entry_->orderLength > 0) {
             s += " order";

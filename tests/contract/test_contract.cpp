@@ -129,6 +129,11 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (float eps : {-1.f, -1e-30f, -INFINITY})
             list.push_back({"eps " + std::to_string(eps), zelStatusNegativeEpsilon,
                             [eps](SweepContext& c) { c.eps = eps; }});
+    // Composition types outside 0..11, negative ones included.
+    if (std::string(e.family).rfind("AlphaComp", 0) == 0)
+        for (int type : {12, -1, INT_MIN})
+            list.push_back({"alphaType " + std::to_string(type), zelStatusBadAlphaType,
+                            [type](SweepContext& c) { c.alphaType = type; }});
     if (e.crossable)
         list.push_back({"thresholdGT below thresholdLT", zelStatusThresholdsCrossed,
                         [](SweepContext& c) { c.crossThresholds = true; }});
