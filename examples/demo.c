@@ -253,18 +253,17 @@ int main(int argc, char** argv) {
                 Zel8u grey = ((x / 32 + y / 32) % 2) ? 200 : 110;
                 c[0] = c[1] = c[2] = grey, c[3] = 255;
             }
-        STEP("AlphaComp_8u_AC4R: picture Over stripes",
-             zeliAlphaComp_8u_AC4R(picture, pictureStep, stripes, stripesStep, mixed, mixedStep, size, zelCompositeOver));
-        STEP("AlphaComp_8u_AC4R: the result Over a checkerboard",
-             zeliAlphaComp_8u_AC4R(mixed, mixedStep, board, boardStep, shown, shownStep, size,
-                                   zelCompositeOverPremultiplied));
-        save("composite_over.png", shown, shownStep, size, 4);
-        STEP("AlphaComp_8u_AC4R: picture ATop stripes",
-             zeliAlphaComp_8u_AC4R(picture, pictureStep, stripes, stripesStep, mixed, mixedStep, size, zelCompositeATop));
-        STEP("AlphaComp_8u_AC4R: the result Over a checkerboard",
-             zeliAlphaComp_8u_AC4R(mixed, mixedStep, board, boardStep, shown, shownStep, size,
-                                   zelCompositeOverPremultiplied));
-        save("composite_atop.png", shown, shownStep, size, 4);
+        const int types[2] = {zelCompositeOver, zelCompositeATop};
+        const char* steps[2] = {"AlphaComp_8u_AC4R: picture Over stripes", "AlphaComp_8u_AC4R: picture ATop stripes"};
+        const char* files[2] = {"composite_over.png", "composite_atop.png"};
+        for (int k = 0; k < 2; ++k) {
+            STEP(steps[k], zeliAlphaComp_8u_AC4R(picture, pictureStep, stripes, stripesStep, mixed, mixedStep, size,
+                                                 types[k]));
+            STEP("AlphaComp_8u_AC4R: the result Over a checkerboard",
+                 zeliAlphaComp_8u_AC4R(mixed, mixedStep, board, boardStep, shown, shownStep, size,
+                                       zelCompositeOverPremultiplied));
+            save(files[k], shown, shownStep, size, 4);
+        }
         zeliFree(shown);
         zeliFree(mixed);
         zeliFree(board);

@@ -18,8 +18,7 @@ namespace {
 template <class T>
 ZelStatus composeInterleaved(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,
                              ZeliSize roi, int type) {
-    if (ZelStatus st = Check().ptrs(pSrc1, pSrc2, pDst).roi(roi).that(!badType(type), zelStatusBadAlphaType))
-        return st;
+    if (ZelStatus st = checkImages(pSrc1, pSrc2, pDst, roi, type)) return st;
     const std::int64_t rowBytes = std::int64_t{roi.width} * 4 * sizeof(T);
     const Rows rows = collapseRows(roi, rowBytes, {src1Step, src2Step, dstStep});
     const auto row = forType(type, [](auto k) {
@@ -36,8 +35,7 @@ ZelStatus composeInterleaved(const T* pSrc1, int src1Step, const T* pSrc2, int s
 template <class T>
 ZelStatus composeAlphas(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep,
                         ZeliSize roi, int type) {
-    if (ZelStatus st = Check().ptrs(pSrc1, pSrc2, pDst).roi(roi).that(!badType(type), zelStatusBadAlphaType))
-        return st;
+    if (ZelStatus st = checkImages(pSrc1, pSrc2, pDst, roi, type)) return st;
     const std::int64_t rowBytes = std::int64_t{roi.width} * sizeof(T);
     const Rows rows = collapseRows(roi, rowBytes, {src1Step, src2Step, dstStep});
     const auto row = forType(type, [](auto k) {
@@ -55,9 +53,7 @@ ZelStatus composeAlphas(const T* pSrc1, int src1Step, const T* pSrc2, int src2St
 template <class T>
 ZelStatus composePlanes(const T* const pSrc1[4], int src1Step, const T* const pSrc2[4], int src2Step,
                         T* const pDst[4], int dstStep, ZeliSize roi, int type) {
-    if (ZelStatus st = Check().planes(pSrc1, 4).planes(pSrc2, 4).planes(pDst, 4).roi(roi).that(
-            !badType(type), zelStatusBadAlphaType))
-        return st;
+    if (ZelStatus st = checkPlanes(pSrc1, pSrc2, pDst, roi, type)) return st;
     const std::int64_t rowBytes = std::int64_t{roi.width} * sizeof(T);
     const Rows rows = collapseRows(roi, rowBytes, {src1Step, src2Step, dstStep});
     const auto row = forType(type, [](auto k) {

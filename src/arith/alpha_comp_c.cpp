@@ -22,8 +22,7 @@ namespace {
 template <class T, Layout L>
 ZelStatus composeConstant(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2, int src2Step, T alpha2, T* pDst,
                           int dstStep, ZeliSize roi, int type) {
-    if (ZelStatus st = Check().ptrs(pSrc1, pSrc2, pDst).roi(roi).that(!badType(type), zelStatusBadAlphaType))
-        return st;
+    if (ZelStatus st = checkImages(pSrc1, pSrc2, pDst, roi, type)) return st;
     constexpr int C = kChannels<L>;
     const std::int64_t rowBytes = std::int64_t{roi.width} * C * sizeof(T);
     const Rows rows = collapseRows(roi, rowBytes, {src1Step, src2Step, dstStep});
@@ -51,9 +50,7 @@ ZelStatus composeConstant(const T* pSrc1, int src1Step, T alpha1, const T* pSrc2
 template <class T>
 ZelStatus composeConstantPlanes(const T* const pSrc1[4], int src1Step, T alpha1, const T* const pSrc2[4],
                                 int src2Step, T alpha2, T* const pDst[4], int dstStep, ZeliSize roi, int type) {
-    if (ZelStatus st = Check().planes(pSrc1, 4).planes(pSrc2, 4).planes(pDst, 4).roi(roi).that(
-            !badType(type), zelStatusBadAlphaType))
-        return st;
+    if (ZelStatus st = checkPlanes(pSrc1, pSrc2, pDst, roi, type)) return st;
     const std::int64_t rowBytes = std::int64_t{roi.width} * sizeof(T);
     const Rows rows = collapseRows(roi, rowBytes, {src1Step, src2Step, dstStep});
     const auto row = forType(type, [](auto k) {

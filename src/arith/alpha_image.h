@@ -18,6 +18,18 @@ namespace zel::alpha {
 // A composition type above 11, tested as unsigned (negative types too).
 inline bool badType(int type) { return static_cast<unsigned>(type) >= static_cast<unsigned>(kTypes); }
 
+// The compositions' checks: null images (every plane of a planar operand
+// and the plane array), then the ROI size, then the type.
+template <class T>
+ZelStatus checkImages(const T* pSrc1, const T* pSrc2, const T* pDst, ZeliSize roi, int type) {
+    return Check().ptrs(pSrc1, pSrc2, pDst).roi(roi).that(!badType(type), zelStatusBadAlphaType);
+}
+template <class T>
+ZelStatus checkPlanes(const T* const* pSrc1, const T* const* pSrc2, T* const* pDst, ZeliSize roi, int type) {
+    return Check().planes(pSrc1, 4).planes(pSrc2, 4).planes(pDst, 4).roi(roi).that(!badType(type),
+                                                                                     zelStatusBadAlphaType);
+}
+
 // pick(std::integral_constant<int, Type>) for the run-time `type` 0..11:
 // each type is a kernel instantiation of its own.
 template <class Pick, int... I>
