@@ -1069,7 +1069,9 @@ ZELAPI ZelStatus zeliComplement_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSi
    zelStatusNullPtr, then a width or height below 1 zelStatusBadSize, then an
    alphaType outside 0..11 (tested as unsigned: negative types too)
    zelStatusBadAlphaType. Steps are not checked. Nothing is written on
-   failure. */
+   failure. Large calls of these families (not CompColorKey, below) are
+   divided among threads by the library's fork rule; results never depend on
+   the thread count. */
 ZELAPI ZelStatus zeliAlphaComp_8u_AC4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
 ZELAPI ZelStatus zeliAlphaComp_8u_AC1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
 ZELAPI ZelStatus zeliAlphaComp_8u_AP4R(const Zel8u* const pSrc1[4], int src1Step, const Zel8u* const pSrc2[4], int src2Step, Zel8u* const pDst[4], int dstStep, ZeliSize roiSize, int alphaType);
