@@ -227,6 +227,30 @@ int main(int argc, char** argv) {
     save("brighter.png", brighter, brighterStep, size, 1);
 
     {
+        /* Statistics of the picture: channel means, extrema with the first
+           position of the brightest value, a count in a range; then the
+           picture clipped at mid-grey by an element-wise minimum. */
+        Zel64f mean[3];
+        Zel8u lo[3], hi[3], top[3];
+        int topX[3], topY[3], inside[3];
+        const Zel8u lower[3] = {64, 64, 64}, upper[3] = {191, 191, 191}, grey[3] = {128, 128, 128};
+        STEP("Mean_8u_C3R: channel means", zeliMean_8u_C3R(rgb, rgbStep, size, mean));
+        STEP("MinMax_8u_C3R: channel extrema", zeliMinMax_8u_C3R(rgb, rgbStep, size, lo, hi));
+        STEP("MaxIndx_8u_C3R: first brightest pixel", zeliMaxIndx_8u_C3R(rgb, rgbStep, size, top, topX, topY));
+        STEP("CountInRange_8u_C3R: values in 64..191", zeliCountInRange_8u_C3R(rgb, rgbStep, size, inside, lower, upper));
+        for (int c = 0; c < 3; ++c)
+            printf("    channel %d: mean %.2f, range %d..%d, first %d at (%d, %d), %d in 64..191\n", c, mean[c], lo[c],
+                   hi[c], top[c], topX[c], topY[c], inside[c]);
+        int clippedStep = 0;
+        Zel8u* clipped = zeliMalloc_8u_C3(size.width, size.height, &clippedStep);
+        if (!clipped) return 1;
+        STEP("Set_8u_C3R: mid-grey", zeliSet_8u_C3R(grey, clipped, clippedStep, size));
+        STEP("MinEvery_8u_C3IR: the picture clipped at mid-grey",
+             zeliMinEvery_8u_C3IR(rgb, rgbStep, clipped, clippedStep, size));
+        save("clipped.png", clipped, clippedStep, size, 3);
+        zeliFree(clipped);
+    }
+    {
         /* Compositing: the picture under a soft round alpha, and diagonal
            stripes whose alpha rises from left to right, composited Over and
            ATop. The results are premultiplied; each is shown Over an opaque

@@ -49,5 +49,6 @@
 #include "zeli/threshold.h"
 #include "zeli/arith.h"
 #include "zeli/filter.h"
+#include "zeli/stats.h"
 
 #endif /* ZELI_H */

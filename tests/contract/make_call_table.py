@@ -79,6 +79,18 @@ for fam in ALPHA_FAMILIES:
 for fam in ('CompColorKey', 'AlphaCompColorKey'):
     STEP_CHECKS[fam] = lambda t, lay: True
 
+# Statistics: the reductions trust their steps; CountInRange checks its step
+# (before the size) and MinEvery/MaxEvery theirs. Their results go through
+# output pointers (OUTPUTS); CountInRange's bounds must not cross.
+STATS_REDUCTIONS = ('Sum', 'Mean', 'Min', 'Max', 'MinMax', 'MinIndx', 'MaxIndx')
+for fam in STATS_REDUCTIONS:
+    STEP_CHECKS[fam] = lambda t, lay: False
+for fam in ('CountInRange', 'MinEvery', 'MaxEvery'):
+    STEP_CHECKS[fam] = lambda t, lay: True
+LIMIT_SLOTS.update({'lowerBound': 1, 'upperBound': 2})
+OUTPUTS = ('pSum', 'pMean', 'pMin', 'pMax', 'pIndexX', 'pIndexY', 'counts')
+CROSSABLE = ('Threshold_LTValGTVal', 'CountInRange')
+
 # The library frame: functions without image operands.
 FRAME = [
     (r'zeliMalloc_(\w+)_(C1|C2|C3|C4|AC4)$', 'malloc'),
@@ -88,6 +100,7 @@ FRAME = [
     (r'zelGetMaxCacheSizeB$', 'getIntOut'),
     (r'zeliGetLibVersion$', 'version'),
     (r'zelConstantOfNAN_(32f|64f)$', 'nan'),
+    (r'zeliDotProdCol_32f_L2$', 'dotProdCol'),
 ]
 
 STEP_OF = {'pSrc': 'srcStep', 'pSrc1': 'src1Step', 'pSrc2': 'src2Step', 'pDst': 'dstStep',
@@ -250,6 +263,13 @@ def image_entry(name, params):
         elif pname == 'eps' and ptype == 'Zel32f':
             args.append('c.eps')
             eps = True
+        elif pname in OUTPUTS and ptype in ('Zel64f', 'int', ctype):
+            slot = sum(1 for n in nulls if n.startswith('{"out '))
+            args.append('c.out<%s>(%d)' % (ptype, slot))
+            nulls.append('{"out %s", %d, -1}' % (pname, -20 - slot))
+            out_value = True
+        elif pname == 'hint' and ptype == 'ZelAccuracyHint':
+            args.append('static_cast<ZelAccuracyHint>(c.flags)')
         elif pname == 'pThreshold' and ptype == 'Zel8u':
             args.append('c.outByte()')
             nulls.append('{"pThreshold", -4, -1}')
@@ -262,7 +282,7 @@ def image_entry(name, params):
     checks_steps = STEP_CHECKS[family](tsuf, layout_key)
     square = family == 'Transpose' and inplace == 'I'
     op_check = OP_CHECKS.get(family, 'OpCheck::none')
-    crossable = family == 'Threshold_LTValGTVal'
+    crossable = family in CROSSABLE
     return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %s, %d, %s, %s, %s, %s, %s, %s,\n'
             ' [](SweepContext& c) -> int { return %s(%s); }},\n') % (
         name, family, ', '.join(ops), ', '.join(nulls), ', '.join(str(s) for s in steps),
@@ -282,6 +302,10 @@ def frame_entry(name, ret, kind):
     if kind == 'nan':
         return ('{"%s", FrameKind::nan, 0, reinterpret_cast<void (*)()>('
                 'static_cast<bool (*)()>([] { auto v = %s(); return v != v; }))},\n') % (name, name)
+    if kind == 'dotProdCol':
+        return ('{"%s", FrameKind::dotProdCol, 0, reinterpret_cast<void (*)()>('
+                'static_cast<ZelStatus (*)(const Zel32f* const*, const Zel32f*, int, Zel32f*, int)>(&%s))},\n') % (
+            name, name)
     signature = {'free': 'void (*)(void*)', 'setThreads': 'ZelStatus (*)(int)',
                  'getIntOut': 'ZelStatus (*)(int*)', 'version': 'const ZelLibraryVersion* (*)()'}[kind]
     return '{"%s", FrameKind::%s, 0, reinterpret_cast<void (*)()>(static_cast<%s>(&%s))},\n' % (

@@ -78,7 +78,7 @@ struct CallEntry {
     OpCheck opCheck;
     bool hasEps;        // a tolerance; below 0 is rejected
     bool crossable;     // lower and upper thresholds that must not cross
-    bool outValue;      // writes one byte through an output pointer (Otsu)
+    bool outValue;      // writes only through output pointers (Otsu, the statistics)
     int (*call)(SweepContext&);
 };
 
@@ -89,7 +89,7 @@ inline bool hasBorder(const CallEntry& e) {
     return false;
 }
 
-enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan };
+enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan, dotProdCol };
 
 struct FrameEntry {
     const char* name;
@@ -144,6 +144,7 @@ public:
         crossThresholds = false;
         alphaType = 0;
         outByte_ = outBefore_ = 0xa5;
+        std::memset(outStore_, 0xa5, sizeof outStore_);
         nullOperand_ = nullPlane_ = -100;
         aliasSource_ = aliasTarget_ = -1;
         std::mt19937 rng(g.seed);
@@ -276,6 +277,12 @@ public:
         return limitElement<T>(slot, 0);
     }
     Zel8u* outByte() { return nullOperand_ == -4 ? nullptr : &outByte_; }
+    // Result arrays of the statistics (sums, extrema, indices, counts):
+    // output `slot` of the call, null when the case breaks it (-20 - slot).
+    template <class T>
+    T* out(int slot) {
+        return nullOperand_ == -20 - slot ? nullptr : reinterpret_cast<T*>(outStore_[slot]);
+    }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
     // Breaking one argument.
@@ -295,6 +302,9 @@ public:
     }
     bool unchanged() const {
         if (outByte_ != outBefore_) return false;
+        for (const auto& slot : outStore_)
+            for (std::uint8_t b : slot)
+                if (b != 0xa5) return false;
         for (const auto& b : ops_)
             if (b.planes != b.before) return false;
         return true;
@@ -334,6 +344,7 @@ public:
     // Every byte of every operand, for comparing runs.
     std::vector<std::uint8_t> contents() const {
         std::vector<std::uint8_t> all{outByte_};
+        for (const auto& slot : outStore_) all.insert(all.end(), std::begin(slot), std::end(slot));
         for (const auto& b : ops_)
             for (const auto& p : b.planes) all.insert(all.end(), p.begin(), p.end());
         return all;
@@ -439,6 +450,7 @@ private:
     }
     alignas(8) std::uint8_t limitStore_[5][32] = {};
     Zel8u outByte_ = 0xa5, outBefore_ = 0xa5;
+    alignas(8) std::uint8_t outStore_[3][32] = {};
     alignas(8) std::uint8_t valueStore_[32] = {};
     std::array<int, 4> order_{};
     int nullOperand_ = -100, nullPlane_ = -100;

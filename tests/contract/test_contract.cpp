@@ -134,7 +134,10 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (int type : {12, -1, INT_MIN})
             list.push_back({"alphaType " + std::to_string(type), zelStatusBadAlphaType,
                             [type](SweepContext& c) { c.alphaType = type; }});
-    if (e.crossable)
+    if (e.crossable && std::string(e.family) == "CountInRange")
+        list.push_back({"upperBound below lowerBound", zelStatusBadRange,
+                        [](SweepContext& c) { c.crossThresholds = true; }});
+    else if (e.crossable)
         list.push_back({"thresholdGT below thresholdLT", zelStatusThresholdsCrossed,
                         [](SweepContext& c) { c.crossThresholds = true; }});
     if (e.orderLength > 0) {
@@ -400,11 +403,43 @@ TEST(ContractSweep, FrameFunctionsKeepTheirContracts) {
             case FrameKind::nan:
                 EXPECT_TRUE(as<bool (*)()>(f)());
                 break;
+            case FrameKind::dotProdCol: {
+                // Row pointers, coefficients and destination: -8 for a null
+                // array, -6 for a count below 1, nothing written; a null
+                // row after the first keeps the rows combined before it.
+                auto dot = as<ZelStatus (*)(const Zel32f* const*, const Zel32f*, int, Zel32f*, int)>(f);
+                const Zel32f r0[3] = {1, 2, 3}, r1[3] = {4, 5, 6}, k[2] = {2, -1};
+                const Zel32f* rows[2] = {r0, r1};
+                const Zel32f* broken[2] = {r0, nullptr};
+                Zel32f out[4] = {9, 9, 9, 9};
+                EXPECT_EQ(dot(nullptr, k, 2, out, 3), zelStatusNullPtr);
+                EXPECT_EQ(dot(rows, nullptr, 2, out, 3), zelStatusNullPtr);
+                EXPECT_EQ(dot(rows, k, 2, nullptr, 3), zelStatusNullPtr);
+                EXPECT_EQ(dot(rows, k, 0, out, 3), zelStatusBadSize);
+                EXPECT_EQ(dot(rows, k, 2, out, -1), zelStatusBadSize);
+                for (Zel32f v : out) EXPECT_EQ(v, 9.f);
+                EXPECT_EQ(dot(rows, k, 2, out, 3), zelStatusOk);
+                EXPECT_EQ(out[0], -2.f);
+                EXPECT_EQ(out[2], 0.f);
+                EXPECT_EQ(out[3], 9.f);
+                EXPECT_EQ(dot(broken, k, 2, out, 3), zelStatusNullPtr);
+                EXPECT_EQ(out[1], 4.f);
+                gCalls += 7;
+                break;
+            }
         }
     }
 }
 
 // ---- Random argument sets -----------------------------------------------
+
+// Results that depend on the order of the rows, which an upward walk
+// reverses: positions of the first extreme, 32f sums (rounded row by row).
+bool rowOrderMatters(const CallEntry& e) {
+    const std::string family = e.family, name = e.name;
+    return family == "MinIndx" || family == "MaxIndx" ||
+           ((family == "Sum" || family == "Mean") && name.find("_32f_") != std::string::npos);
+}
 
 TEST(ContractSweep, RandomArgumentSets) {
     const char* secondsText = std::getenv("ZELI_SWEEP_SECONDS");
@@ -438,7 +473,8 @@ TEST(ContractSweep, RandomArgumentSets) {
         g.offsetElements = std::uniform_int_distribution<int>(0, 31)(rng);
         g.tight = rng() % 4 == 0;
         // Families that trust their steps walk a negative step upwards.
-        const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && rng() % 3 == 0;
+        const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && !rowOrderMatters(e) &&
+                            rng() % 3 == 0;
         g.seed = static_cast<std::uint32_t>(rng());
         const int threads = std::uniform_int_distribution<int>(1, 4)(rng);
         const std::int64_t target = targets[std::uniform_int_distribution<std::size_t>(0, targets.size() - 1)(rng)];
