@@ -333,6 +333,50 @@ int main(int argc, char** argv) {
         zeliFree(light);
     }
 
+    {
+        /* Compositing: the picture under a soft round alpha, and diagonal
+           stripes whose alpha rises from left to right, composited Over and
+           ATop. The results are premultiplied; each is shown Over an opaque
+           checkerboard (premultiplied Over) so the PNG needs no alpha. */
+        int pictureStep = 0, stripesStep = 0, boardStep = 0, mixedStep = 0, shownStep = 0;
+        Zel8u* picture = zeliMalloc_8u_AC4(size.width, size.height, &pictureStep);
+        Zel8u* stripes = zeliMalloc_8u_AC4(size.width, size.height, &stripesStep);
+        Zel8u* board = zeliMalloc_8u_AC4(size.width, size.height, &boardStep);
+        Zel8u* mixed = zeliMalloc_8u_AC4(size.width, size.height, &mixedStep);
+        Zel8u* shown = zeliMalloc_8u_AC4(size.width, size.height, &shownStep);
+        if (!picture || !stripes || !board || !mixed || !shown) return 1;
+        for (int y = 0; y < size.height; ++y)
+            for (int x = 0; x < size.width; ++x) {
+                Zel8u* p = picture + (long)y * pictureStep + 4 * x;
+                Zel8u* q = stripes + (long)y * stripesStep + 4 * x;
+                Zel8u* c = board + (long)y * boardStep + 4 * x;
+                const Zel8u* src = rgb + (long)y * rgbStep + 3 * x;
+                double d = hypot(x - size.width / 2.0, y - size.height / 2.0) / (size.height * 0.45);
+                p[0] = src[0], p[1] = src[1], p[2] = src[2];
+                p[3] = (Zel8u)(d < 0.7 ? 255 : d > 1 ? 0 : 255 * (1 - d) / 0.3);
+                int band = ((x + y) / 24) % 2;
+                q[0] = band ? 250 : 30, q[1] = band ? 200 : 60, q[2] = band ? 40 : 220;
+                q[3] = (Zel8u)(255 * x / (size.width - 1));
+                Zel8u grey = ((x / 32 + y / 32) % 2) ? 200 : 110;
+                c[0] = c[1] = c[2] = grey, c[3] = 255;
+            }
+        const int types[2] = {zelCompositeOver, zelCompositeATop};
+        const char* steps[2] = {"AlphaComp_8u_AC4R: picture Over stripes", "AlphaComp_8u_AC4R: picture ATop stripes"};
+        const char* files[2] = {"composite_over.png", "composite_atop.png"};
+        for (int k = 0; k < 2; ++k) {
+            STEP(steps[k], zeliAlphaComp_8u_AC4R(picture, pictureStep, stripes, stripesStep, mixed, mixedStep, size,
+                                                 types[k]));
+            STEP("AlphaComp_8u_AC4R: the result Over a checkerboard",
+                 zeliAlphaComp_8u_AC4R(mixed, mixedStep, board, boardStep, shown, shownStep, size,
+                                       zelCompositeOverPremultiplied));
+            save(files[k], shown, shownStep, size, 4);
+        }
+        zeliFree(shown);
+        zeliFree(mixed);
+        zeliFree(board);
+        zeliFree(stripes);
+        zeliFree(picture);
+    }
     zeliFree(brighter);
     zeliFree(cut);
     zeliFree(edges);

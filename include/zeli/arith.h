@@ -1044,6 +1044,128 @@ ZELAPI ZelStatus zeliExp_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roiS
    Returns 0. */
 ZELAPI ZelStatus zeliComplement_32s_C1IR(Zel32s* pSrcDst, int srcDstStep, ZeliSize roiSize);
 
+/* ==== Alpha compositing ================================================== */
+/* Unsigned pixels are fractions of the type's maximum M (255 for 8u, 65535 for
+   16u). m(x, y) = floor(x * y / M), exact for every pair (8u: formed as
+   (t + (t >> 8) + 1) >> 8 with t = x * y; 16u: the same with 16), and
+   s(x) = min(M, x). alphaType 0..5 (zelCompositeOver, In, Out, ATop, Xor,
+   Plus) takes straight colours, which are premultiplied first,
+   c1' = m(c1, a1) and c2' = m(c2, a2); 6..11 (the Premultiplied types) take
+   colours that already are, c' = c. Per colour channel and for the alpha:
+     Over  s(c1' + m(c2', M - a1))          alpha s(a1 + m(a2, M - a1))
+     In    m(c1', a2)                       alpha m(a1, a2)
+     Out   m(c1', M - a2)                   alpha m(a1, M - a2)
+     ATop  s(m(c1', a2) + m(c2', M - a1))   alpha a2
+     Xor   s(m(c1', M - a2) + m(c2', M - a1))
+                                            alpha s(m(a1, M - a2) + m(a2, M - a1))
+     Plus  s(c1' + c2')                     alpha s(a1 + a2)
+   The result stays premultiplied (nothing is divided by its alpha); the
+   second term is m(m(c2, a2), M - a1), in that order.
+
+   AlphaComp: per-pixel alphas. AC4 pixels are (c0, c1, c2, a): colours and
+   alpha written. AP4: four planes (array of four pointers sharing one step),
+   the fourth the alpha. AC1: the images hold alpha values; the result is the
+   alpha column. Checks: a null image or plane pointer (or plane array) gives
+   zelStatusNullPtr, then a width or height below 1 zelStatusBadSize, then an
+   alphaType outside 0..11 (tested as unsigned: negative types too)
+   zelStatusBadAlphaType. Steps are not checked. Nothing is written on
+   failure. Large calls of these families (not CompColorKey, below) are
+   divided among threads by the library's fork rule; results never depend on
+   the thread count. */
+ZELAPI ZelStatus zeliAlphaComp_8u_AC4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaComp_8u_AC1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaComp_8u_AP4R(const Zel8u* const pSrc1[4], int src1Step, const Zel8u* const pSrc2[4], int src2Step, Zel8u* const pDst[4], int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaComp_16u_AC4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaComp_16u_AC1R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaComp_16u_AP4R(const Zel16u* const pSrc1[4], int src1Step, const Zel16u* const pSrc2[4], int src2Step, Zel16u* const pDst[4], int dstStep, ZeliSize roiSize, int alphaType);
+
+/* AlphaCompC: the same compositions with the constants alpha1 and alpha2 in
+   place of the pixels' alphas. Every channel of C1, C3 and C4 pixels is a
+   colour. AC4 and AP4 images: the colour channels are composited with the
+   constants, and the destination alpha (fourth channel or plane) is the
+   alpha column computed from alpha1 and alpha2, the same for every pixel, so
+   the result is a consistent premultiplied image; the sources' alphas are
+   not used. Checks as AlphaComp: null, size, alphaType (-50); steps are not
+   checked. */
+ZELAPI ZelStatus zeliAlphaCompC_8u_C1R(const Zel8u* pSrc1, int src1Step, Zel8u alpha1, const Zel8u* pSrc2, int src2Step, Zel8u alpha2, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_8u_C3R(const Zel8u* pSrc1, int src1Step, Zel8u alpha1, const Zel8u* pSrc2, int src2Step, Zel8u alpha2, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_8u_C4R(const Zel8u* pSrc1, int src1Step, Zel8u alpha1, const Zel8u* pSrc2, int src2Step, Zel8u alpha2, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_8u_AC4R(const Zel8u* pSrc1, int src1Step, Zel8u alpha1, const Zel8u* pSrc2, int src2Step, Zel8u alpha2, Zel8u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_8u_AP4R(const Zel8u* const pSrc1[4], int src1Step, Zel8u alpha1, const Zel8u* const pSrc2[4], int src2Step, Zel8u alpha2, Zel8u* const pDst[4], int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_16u_C1R(const Zel16u* pSrc1, int src1Step, Zel16u alpha1, const Zel16u* pSrc2, int src2Step, Zel16u alpha2, Zel16u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_16u_C3R(const Zel16u* pSrc1, int src1Step, Zel16u alpha1, const Zel16u* pSrc2, int src2Step, Zel16u alpha2, Zel16u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_16u_C4R(const Zel16u* pSrc1, int src1Step, Zel16u alpha1, const Zel16u* pSrc2, int src2Step, Zel16u alpha2, Zel16u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_16u_AC4R(const Zel16u* pSrc1, int src1Step, Zel16u alpha1, const Zel16u* pSrc2, int src2Step, Zel16u alpha2, Zel16u* pDst, int dstStep, ZeliSize roiSize, int alphaType);
+ZELAPI ZelStatus zeliAlphaCompC_16u_AP4R(const Zel16u* const pSrc1[4], int src1Step, Zel16u alpha1, const Zel16u* const pSrc2[4], int src2Step, Zel16u alpha2, Zel16u* const pDst[4], int dstStep, ZeliSize roiSize, int alphaType);
+
+/* AlphaPremul: each AC4 pixel becomes (m(c0, a), m(c1, a), m(c2, a), a); the
+   alpha is kept (copied out of place; in place the AC4 alpha is rewritten
+   with its own value and the AP4 alpha plane is not touched). AP4: colour
+   plane k by the alpha plane. Checks: null image or plane pointer
+   zelStatusNullPtr, then size zelStatusBadSize; steps are not checked. */
+ZELAPI ZelStatus zeliAlphaPremul_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_8u_AP4R(const Zel8u* const pSrc[4], int srcStep, Zel8u* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_8u_AP4IR(Zel8u* const pSrcDst[4], int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_16u_AP4R(const Zel16u* const pSrc[4], int srcStep, Zel16u* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremul_16u_AP4IR(Zel16u* const pSrcDst[4], int srcDstStep, ZeliSize roiSize);
+
+/* AlphaPremulC: every colour channel multiplied by the constant alpha,
+   m(c, alpha). C1, C3, C4: all channels are colours. AC4 and AP4: the three
+   colour channels or planes are multiplied and the destination alpha
+   (fourth channel or plane) is set to alpha, which makes the result the
+   premultiplied form of the image under that alpha. Checks as AlphaPremul. */
+ZELAPI ZelStatus zeliAlphaPremulC_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u alpha, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_C1IR(Zel8u alpha, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u alpha, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_C3IR(Zel8u alpha, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u alpha, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_C4IR(Zel8u alpha, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u alpha, Zel8u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_AC4IR(Zel8u alpha, Zel8u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_AP4R(const Zel8u* const pSrc[4], int srcStep, Zel8u alpha, Zel8u* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_8u_AP4IR(Zel8u alpha, Zel8u* const pSrcDst[4], int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u alpha, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_C1IR(Zel16u alpha, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u alpha, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_C3IR(Zel16u alpha, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u alpha, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_C4IR(Zel16u alpha, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u alpha, Zel16u* pDst, int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_AC4IR(Zel16u alpha, Zel16u* pSrcDst, int srcDstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_AP4R(const Zel16u* const pSrc[4], int srcStep, Zel16u alpha, Zel16u* const pDst[4], int dstStep, ZeliSize roiSize);
+ZELAPI ZelStatus zeliAlphaPremulC_16u_AP4IR(Zel16u alpha, Zel16u* const pSrcDst[4], int srcDstStep, ZeliSize roiSize);
+
+/* CompColorKey: pDst = pSrc2 where the pSrc1 pixel equals colorKey, else
+   pSrc1. C3 and C4 compare whole pixels: every channel must equal the key's
+   (a pixel matching two channels of three is not keyed); the whole source 2
+   pixel is then taken. Checks: null image or key pointer zelStatusNullPtr,
+   size zelStatusBadSize, then any step below 1 zelStatusBadStep. With at least
+   two threads and a ROI at least 192 wide and 192 high, the rows are split
+   among the threads (each takes height / threads rows, the last also the
+   remainder); the result does not depend on it. */
+ZELAPI ZelStatus zeliCompColorKey_8u_C1R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, Zel8u colorKey);
+ZELAPI ZelStatus zeliCompColorKey_8u_C3R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u colorKey[3]);
+ZELAPI ZelStatus zeliCompColorKey_8u_C4R(const Zel8u* pSrc1, int src1Step, const Zel8u* pSrc2, int src2Step, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u colorKey[4]);
+ZELAPI ZelStatus zeliCompColorKey_16u_C1R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, Zel16u colorKey);
+ZELAPI ZelStatus zeliCompColorKey_16u_C3R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u colorKey[3]);
+ZELAPI ZelStatus zeliCompColorKey_16u_C4R(const Zel16u* pSrc1, int src1Step, const Zel16u* pSrc2, int src2Step, Zel16u* pDst, int dstStep, ZeliSize roiSize, const Zel16u colorKey[4]);
+ZELAPI ZelStatus zeliCompColorKey_16s_C1R(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, Zel16s colorKey);
+ZELAPI ZelStatus zeliCompColorKey_16s_C3R(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel16s colorKey[3]);
+ZELAPI ZelStatus zeliCompColorKey_16s_C4R(const Zel16s* pSrc1, int src1Step, const Zel16s* pSrc2, int src2Step, Zel16s* pDst, int dstStep, ZeliSize roiSize, const Zel16s colorKey[4]);
+
+/* AlphaCompColorKey: AlphaCompC on AC4 images with one difference: a source 1
+   pixel whose three colour channels equal colorKey[0..2] is transparent,
+   composited with alpha 0 and colour 0 (whatever the type, so it contributes
+   nothing: Over gives source 2 under alpha2). The other pixels take alpha1,
+   source 2 pixels alpha2; the destination alpha is the alpha column of those.
+   Checks: null image or key pointer zelStatusNullPtr, size zelStatusBadSize,
+   any step below 1 zelStatusBadStep (steps are checked as by the colour-key
+   members), then alphaType outside 0..11 zelStatusBadAlphaType. */
+ZELAPI ZelStatus zeliAlphaCompColorKey_8u_AC4R(const Zel8u* pSrc1, int src1Step, Zel8u alpha1, const Zel8u* pSrc2, int src2Step, Zel8u alpha2, Zel8u* pDst, int dstStep, ZeliSize roiSize, const Zel8u colorKey[3], int alphaType);
+
 #ifdef __cplusplus
 }
 #endif

@@ -87,6 +87,13 @@ for fam in ('LUTPalette', 'LUTPaletteSwap'):
 # sweep's pixel values); the context scales its curve shapes to it.
 CURVE_RANGES = {'8u': (0, 256), '16u': (0, 65536), '16s': (-32768, 32768), '32f': (-1000, 1000)}
 CURVE_SLOTS = {'pValues': 0, 'pLevels': 1}
+# Alpha compositing: AC4 alpha is read and written; only the colour-key
+# members check their steps.
+ALPHA_FAMILIES = ('AlphaComp', 'AlphaCompC', 'AlphaPremul', 'AlphaPremulC', 'AlphaCompColorKey')
+for fam in ALPHA_FAMILIES:
+    STEP_CHECKS[fam] = lambda t, lay: False
+for fam in ('CompColorKey', 'AlphaCompColorKey'):
+    STEP_CHECKS[fam] = lambda t, lay: True
 
 # Statistics: the reductions trust their steps; CountInRange checks its step
 # (before the size) and MinEvery/MaxEvery theirs. Their results go through
@@ -128,10 +135,10 @@ def fail(message):
 
 def layout_parts(layout):
     """'C3P3' -> ['C3', 'P3']; a trailing C (channel of interest) is kept apart."""
-    coi = layout.endswith('C') and not re.fullmatch(r'(AC4|C\d|P\d)+', layout)
+    coi = layout.endswith('C') and not re.fullmatch(r'(AC4|AC1|AP4|C\d|P\d)+', layout)
     body = layout[:-1] if coi else layout
     body = body.replace('A0', '')  # C3A0C4: three channels to four, the alpha one filled
-    parts = re.findall(r'AC4|C\d|P\d', body)
+    parts = re.findall(r'AC4|AC1|AP4|C\d|P\d', body)
     if ''.join(parts) != body or not parts:
         fail('layout %s not understood' % layout)
     return parts, coi
@@ -140,10 +147,12 @@ def layout_parts(layout):
 def operand(part, role, coi, family, order_len):
     """(channels, writable-channel mask, channel offset, planes) of one operand."""
     n = int(part[-1])
-    if part.startswith('P'):
+    if part.startswith('P') or part == 'AP4':
         return 1, 1, 0, n
+    if part == 'AC1':
+        return 1, 1, 0, 0
     if part == 'AC4':
-        return 4, 0b0111, 0, 0
+        return 4, 0b1111 if family in ALPHA_FAMILIES else 0b0111, 0, 0
     if coi:
         return n, 0b0010, 1, 0  # the pointer addresses channel 1
     return n, (1 << n) - 1, 0, 0
@@ -241,6 +250,15 @@ def image_entry(name, params):
             args.append('c.values<%s>()' % ctype)
             nulls.append('{"value[]", -2, -1}')
         elif pname == 'value':
+            args.append('c.scalar<%s>()' % ctype)
+        elif pname in ('alpha', 'alpha1', 'alpha2') and ptype == ctype:
+            args.append('c.scalar<%s>()' % ctype)
+        elif pname == 'alphaType' and ptype == 'int':
+            args.append('c.alphaType')
+        elif pname == 'colorKey' and arr is not None:
+            args.append('c.values<%s>()' % ctype)
+            nulls.append('{"colorKey[]", -2, -1}')
+        elif pname == 'colorKey' and ptype == ctype:
             args.append('c.scalar<%s>()' % ctype)
         elif pname == 'val' and ptype == 'Zel8u':
             args.append('c.val')

@@ -140,6 +140,7 @@ public:
     ZeliSize maskSize{3, 3};
     ZeliPoint anchor{1, 1};
     int weight = 1;
+    int alphaType = 0;             // alpha compositing: zelCompositeOver ... PlusPremultiplied
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -168,6 +169,7 @@ public:
             levelCounts_[c] = 5;
             for (int k = 0; k < 8; ++k) shapes_[1][c][k] = kLevels[k] + 0.01 * c, shapes_[0][c][k] = kValues[k];
         }
+        alphaType = 0;
         outByte_ = outBefore_ = 0xa5;
         std::memset(outStore_, 0xa5, sizeof outStore_);
         nullOperand_ = nullPlane_ = -100;
@@ -244,6 +246,7 @@ public:
             for (int k = 0; k < entry_->orderLength; ++k)
                 order_[k] = std::uniform_int_distribution<int>(0, range - 1)(rng);
         }
+        alphaType = static_cast<int>(rng() % 12);
         if (std::strncmp(entry_->family, "LUT", 3) == 0) randomizeCurves(rng);
     }
 
@@ -447,6 +450,7 @@ public:
                  std::to_string(anchor.x) + "," + std::to_string(anchor.y);
         else if (entry_->maskCheck == MaskCheck::weight) s += " weight " + std::to_string(weight);
         else if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
+        if (std::strncmp(entry_->family, "AlphaComp", 9) == 0) s += " alphaType " + std::to_string(alphaType);
         if (entry_->orderLength > 0) {
             s += " order";
             for (int k = 0; k < entry_->orderLength; ++k) s += " " + std::to_string(order_[k]);

@@ -144,6 +144,11 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (float eps : {-1.f, -1e-30f, -INFINITY})
             list.push_back({"eps " + std::to_string(eps), zelStatusNegativeEpsilon,
                             [eps](SweepContext& c) { c.eps = eps; }});
+    // Composition types outside 0..11, negative ones included.
+    if (std::string(e.family).rfind("AlphaComp", 0) == 0)
+        for (int type : {12, -1, INT_MIN})
+            list.push_back({"alphaType " + std::to_string(type), zelStatusBadAlphaType,
+                            [type](SweepContext& c) { c.alphaType = type; }});
     if (e.crossable && std::string(e.family) == "CountInRange")
         list.push_back({"upperBound below lowerBound", zelStatusBadRange,
                         [](SweepContext& c) { c.crossThresholds = true; }});
