@@ -56,7 +56,10 @@ HWY_INLINE auto AlphaFree(DD dd, std::ptrdiff_t x) {
     const hn::RebindToUnsigned<DD> du;
     using U = hn::TFromD<decltype(du)>;
     const auto index = hn::Add(hn::Iota(du, 0), hn::Set(du, static_cast<U>(x & 3)));
-    return hn::RebindMask(dd, hn::Ne(hn::And(index, hn::Set(du, U(3))), hn::Set(du, U(3))));
+    const auto colour = hn::RebindMask(dd, hn::Ne(hn::And(index, hn::Set(du, U(3))), hn::Set(du, U(3))));
+    // Partial vectors: AVX-512's masked stores see the register's upper
+    // lanes too, so the mask must not select them.
+    return hn::And(colour, hn::FirstN(dd, hn::Lanes(dd)));
 }
 
 template <bool KeepAlpha, class DD>

@@ -62,6 +62,7 @@ inline Division divisionOf(int d) {
         return div;
     }
     div.mode = 2;
+    const StandardFpEnvironment environment;       // whatever the caller's rounding
     div.reciprocal = static_cast<float>(1.0 / d);  // the float nearest 1/d
     return div;
 }
@@ -164,6 +165,7 @@ public:
             if (!heap_) return false;
             out = heap_.get();
         }
+        const StandardFpEnvironment environment;  // whatever the caller's rounding
         const float r = static_cast<float>(1.0 / divisor);
         for (std::int64_t t = 0; t < count; ++t) out[t] = static_cast<float>(pKernel[count - 1 - t]) * r;
         taps_ = out;
