@@ -80,6 +80,9 @@ struct CallEntry {
     bool crossable;     // lower and upper thresholds that must not cross
     bool outValue;      // writes one byte through an output pointer (Otsu)
     int (*call)(SweepContext&);
+    bool hasKernel = false;   // a user kernel: its size below 1 is rejected
+    bool hasDivisor = false;  // a divisor: 0 is rejected
+    bool hasFactor = false;   // a decimation factor: 0 is rejected
 };
 
 // Border members take a destination size and the source's place in it.
@@ -89,7 +92,7 @@ inline bool hasBorder(const CallEntry& e) {
     return false;
 }
 
-enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan };
+enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan, bufferSize };
 
 struct FrameEntry {
     const char* name;
@@ -125,6 +128,10 @@ public:
     int cmpOp = 0;
     Zel32f eps = 1.f;
     bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
+    // User-kernel filters: kernel extent, anchor (inside or just outside),
+    // divisor, decimation factor; zeroKernel breaks the kernel size.
+    int kernelW = 3, kernelH = 3, anchorX = 1, anchorY = 1, divisor = 3, factor = 1;
+    bool zeroKernel = false;
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -141,6 +148,12 @@ public:
         cmpOp = entry.opCheck == OpCheck::thresholdLast || entry.opCheck == OpCheck::thresholdFirst ? 4 : 1;
         eps = 1.f;
         crossThresholds = false;
+        kernelW = kernelH = 3;
+        anchorX = anchorY = 1;
+        divisor = 3;
+        factor = 1;
+        zeroKernel = false;
+        for (int k = 0; k < kKernelElements; ++k) kernelValues_[k] = (k * 7) % 9 - 3;
         outByte_ = outBefore_ = 0xa5;
         nullOperand_ = nullPlane_ = -100;
         aliasSource_ = aliasTarget_ = -1;
@@ -202,6 +215,13 @@ public:
             cmpOp = rng() % 2 ? zelCompareLess : zelCompareGreater;
         else
             cmpOp = static_cast<int>(rng() % 5);
+        kernelW = std::uniform_int_distribution<int>(1, 5)(rng);
+        kernelH = std::uniform_int_distribution<int>(1, 5)(rng);
+        anchorX = std::uniform_int_distribution<int>(-1, kernelW)(rng);
+        anchorY = std::uniform_int_distribution<int>(-1, kernelH)(rng);
+        static constexpr int kDivisors[] = {1, 2, 4, 16, 3, 7, -1, -5};
+        divisor = kDivisors[rng() % std::size(kDivisors)];
+        for (int& v : kernelValues_) v = std::uniform_int_distribution<int>(-3, 6)(rng);
         static constexpr float kEps[] = {0.f, 0.125f, 1.f, 30.f, 1000.f, 1e30f};
         eps = kEps[rng() % std::size(kEps)];
         if (entry_->orderLength > 0) {
@@ -273,6 +293,21 @@ public:
         return limitElement<T>(slot, 0);
     }
     Zel8u* outByte() { return nullOperand_ == -4 ? nullptr : &outByte_; }
+    // The kernel's elements (floats are quarters of the integers).
+    template <class K>
+    const K* kernel() {
+        if (nullOperand_ == -5) return nullptr;
+        K* out = reinterpret_cast<K*>(kernelStore_);
+        for (int k = 0; k < kKernelElements; ++k)
+            out[k] = std::is_floating_point_v<K> ? static_cast<K>(kernelValues_[k] * 0.25) : static_cast<K>(kernelValues_[k]);
+        return out;
+    }
+    // Kernel widths are cut to what the source step holds, so that rows
+    // laid out tight still make valid calls.
+    ZeliSize kernelSize() const { return {zeroKernel ? 0 : fittingWidth(), kernelH}; }
+    int rowKernelLength() const { return zeroKernel ? 0 : fittingWidth(); }
+    int columnKernelLength() const { return zeroKernel ? 0 : kernelH; }
+    Zel8u* workBuffer() { return nullOperand_ == -6 ? nullptr : workBuffer_.data(); }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
     // Breaking one argument.
@@ -439,6 +474,16 @@ private:
     std::array<int, 4> order_{};
     int nullOperand_ = -100, nullPlane_ = -100;
     int aliasSource_ = -1, aliasTarget_ = -1;
+    // The widest kernel the source operand's step holds beside the ROI.
+    int fittingWidth() const {
+        if (ops_.empty() || ops_[0].stepArg <= 0 || roi.width < 1) return kernelW;
+        const int room = ops_[0].stepArg / ops_[0].pixelBytes - roi.width + 1;
+        return std::max(1, std::min(kernelW, room));
+    }
+    static constexpr int kKernelElements = 25;
+    int kernelValues_[kKernelElements] = {};
+    alignas(8) std::uint8_t kernelStore_[kKernelElements * 8] = {};
+    std::vector<std::uint8_t> workBuffer_ = std::vector<std::uint8_t>(4096);
 };
 
 }  // namespace zel::contract
