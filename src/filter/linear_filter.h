@@ -48,11 +48,11 @@ struct Params {
     float reciprocal;
     double divisor;
     bool direct;               // read the source at every tap instead of a ring of converted rows
-    std::ptrdiff_t chunk;      // elements per strip of the ring
+    std::ptrdiff_t chunk;      // elements per strip (columns worked down the block together)
 };
 
 // Rows [y0, y1) and elements [begin, end) of the destination; `ring` is the
-// thread's scratch (kh * (chunk + (kw - 1) * channels) accumulators) unless
+// thread's scratch ((kh + 1) * (chunk + (kw - 1) * channels) accumulators) unless
 // the plan is direct.
 using Kernel = void (*)(const Params& p, std::ptrdiff_t y0, std::ptrdiff_t y1, std::ptrdiff_t begin,
                         std::ptrdiff_t end, void* ring);

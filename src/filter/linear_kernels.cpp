@@ -143,37 +143,41 @@ HWY_INLINE hn::VFromD<DD> Finish(const Params& p, DA da, DD dd, hn::VFromD<DA> v
     }
 }
 
-// Sums M vectors of the window whose row u starts at rowAt(u) (elements of
-// E, positioned at the first output element), tap weights taps[t * step].
-template <int M, class DA, class E, class RowAt>
-HWY_INLINE void SumWindow(DA da, const Params& p, const RowAt& rowAt, hn::VFromD<DA> (&acc)[M]) {
+// Sums M vectors of each of R destination rows that lie on top of each
+// other: window row r (from rowAt(r), elements of E positioned at the first
+// output element) serves kernel row r - j of destination row j. Each row's
+// taps still come in kernel order, so its bits are those of a row summed
+// alone; the rows share their loads.
+template <int M, int R, class DA, class E, class RowAt>
+HWY_INLINE void SumWindow(DA da, const Params& p, const RowAt& rowAt, hn::VFromD<DA> (&acc)[R][M]) {
     using A = hn::TFromD<DA>;
     const A* taps = static_cast<const A*>(p.taps);
     const std::ptrdiff_t step = p.tapStep, C = p.channels;
     const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(da));
-    {
-        const E* row = rowAt(0);
-        const auto k = hn::Set(da, taps[0]);
-        for (int m = 0; m < M; ++m) acc[m] = hn::Mul(k, LoadAs(da, row + m * N));
-        for (std::ptrdiff_t v = 1; v < p.kw; ++v) {
-            const auto kv = hn::Set(da, taps[v * step]);
-            for (int m = 0; m < M; ++m) acc[m] = hn::Add(acc[m], hn::Mul(kv, LoadAs(da, row + v * C + m * N)));
-        }
-    }
-    for (std::ptrdiff_t u = 1; u < p.kh; ++u) {
-        const E* row = rowAt(u);
-        const A* w = taps + u * p.kw * step;
+    for (std::ptrdiff_t r = 0; r < p.kh + R - 1; ++r) {
+        const E* row = rowAt(r);
         for (std::ptrdiff_t v = 0; v < p.kw; ++v) {
-            const auto kv = hn::Set(da, w[v * step]);
-            for (int m = 0; m < M; ++m) acc[m] = hn::Add(acc[m], hn::Mul(kv, LoadAs(da, row + v * C + m * N)));
+            hn::VFromD<DA> x[M];
+            for (int m = 0; m < M; ++m) x[m] = LoadAs(da, row + v * C + m * N);
+            for (int j = 0; j < R; ++j) {
+                const std::ptrdiff_t u = r - j;
+                if (u < 0 || u >= p.kh) continue;
+                const auto k = hn::Set(da, taps[(u * p.kw + v) * step]);
+                if (u == 0 && v == 0) {
+                    for (int m = 0; m < M; ++m) acc[j][m] = hn::Mul(k, x[m]);
+                } else {
+                    for (int m = 0; m < M; ++m) acc[j][m] = hn::Add(acc[j][m], hn::Mul(k, x[m]));
+                }
+            }
         }
     }
 }
 
-// One destination row, elements [x0, x1): rowAt(u, x) addresses element x
-// of window row u.
-template <class S, class A, class D, Out O, bool KeepAlpha, class E, class RowAt>
-HWY_INLINE void FilterRow(const Params& p, const RowAt& rowAt, D* out, std::ptrdiff_t x0, std::ptrdiff_t x1) {
+// R destination rows (out[j] is row j), elements [x0, x1): rowAt(r, x)
+// addresses element x of window row r.
+template <int R, class S, class A, class D, Out O, bool KeepAlpha, class E, class RowAt>
+HWY_INLINE void FilterRows(const Params& p, const RowAt& rowAt, D* const (&out)[R], std::ptrdiff_t x0,
+                           std::ptrdiff_t x1) {
     const hn::ScalableTag<A> da;
     const hn::Rebind<D, decltype(da)> dd;
     const hn::CappedTag<A, 1> da1;
@@ -184,20 +188,21 @@ HWY_INLINE void FilterRow(const Params& p, const RowAt& rowAt, D* out, std::ptrd
     const std::ptrdiff_t vectorEnd = KeepAlpha && x1 == p.n ? x1 - 1 : x1;
     std::ptrdiff_t x = x0;
     for (; vectorEnd - x >= 4 * N; x += 4 * N) {
-        hn::VFromD<decltype(da)> acc[4];
-        SumWindow<4, decltype(da), E>(da, p, [&](std::ptrdiff_t u) { return rowAt(u, x); }, acc);
-        for (int m = 0; m < 4; ++m) Store<KeepAlpha>(Finish<O>(p, da, dd, acc[m]), dd, out, x + m * N);
+        hn::VFromD<decltype(da)> acc[R][4];
+        SumWindow<4, R, decltype(da), E>(da, p, [&](std::ptrdiff_t r) { return rowAt(r, x); }, acc);
+        for (int j = 0; j < R; ++j)
+            for (int m = 0; m < 4; ++m) Store<KeepAlpha>(Finish<O>(p, da, dd, acc[j][m]), dd, out[j], x + m * N);
     }
     for (; vectorEnd - x >= N; x += N) {
-        hn::VFromD<decltype(da)> acc[1];
-        SumWindow<1, decltype(da), E>(da, p, [&](std::ptrdiff_t u) { return rowAt(u, x); }, acc);
-        Store<KeepAlpha>(Finish<O>(p, da, dd, acc[0]), dd, out, x);
+        hn::VFromD<decltype(da)> acc[R][1];
+        SumWindow<1, R, decltype(da), E>(da, p, [&](std::ptrdiff_t r) { return rowAt(r, x); }, acc);
+        for (int j = 0; j < R; ++j) Store<KeepAlpha>(Finish<O>(p, da, dd, acc[j][0]), dd, out[j], x);
     }
     for (; x < x1; ++x) {
         if (KeepAlpha && x % 4 == 3) continue;
-        hn::VFromD<decltype(da1)> acc[1];
-        SumWindow<1, decltype(da1), E>(da1, p, [&](std::ptrdiff_t u) { return rowAt(u, x); }, acc);
-        hn::StoreU(Finish<O>(p, da1, dd1, acc[0]), dd1, out + x);
+        hn::VFromD<decltype(da1)> acc[R][1];
+        SumWindow<1, R, decltype(da1), E>(da1, p, [&](std::ptrdiff_t r) { return rowAt(r, x); }, acc);
+        for (int j = 0; j < R; ++j) hn::StoreU(Finish<O>(p, da1, dd1, acc[j][0]), dd1, out[j] + x);
     }
 }
 
@@ -224,41 +229,61 @@ void LinearBlock(const filter::linear::Params& p, std::ptrdiff_t y0, std::ptrdif
     using namespace linear_detail;
     const std::ptrdiff_t C = p.channels;
     const std::ptrdiff_t reach = (p.kw - 1) * C;  // elements a window reaches right of its output element
+    auto outRow = [&](std::ptrdiff_t y) { return byteOffset(static_cast<D*>(p.dst), y * p.dstStep); };
     if (p.direct || std::is_same_v<S, A>) {
-        for (std::ptrdiff_t y = y0; y < y1; ++y) {
-            const S* origin = byteOffset(static_cast<const S*>(p.src), y * p.srcAdvance);
-            D* out = byteOffset(static_cast<D*>(p.dst), y * p.dstStep);
-            FilterRow<S, A, D, O, KeepAlpha, S>(
-                p, [&](std::ptrdiff_t u, std::ptrdiff_t x) { return byteOffset(origin, u * p.srcStep) + x; }, out,
-                begin, end);
+        // Strips of `chunk` elements down the block, two destination rows at
+        // a time: the source rows of a strip stay in the first-level cache
+        // for the next rows.
+        for (std::ptrdiff_t x0 = begin; x0 < end; x0 += std::min(end - x0, p.chunk)) {
+            const std::ptrdiff_t x1 = x0 + std::min(end - x0, p.chunk);
+            for (std::ptrdiff_t y = y0; y < y1;) {
+                const S* origin = byteOffset(static_cast<const S*>(p.src), y * p.srcAdvance);
+                auto rowAt = [&](std::ptrdiff_t r, std::ptrdiff_t x) { return byteOffset(origin, r * p.srcStep) + x; };
+                if (y1 - y >= 2 && p.srcAdvance == p.srcStep) {
+                    D* const out[2] = {outRow(y), outRow(y + 1)};
+                    FilterRows<2, S, A, D, O, KeepAlpha, S>(p, rowAt, out, x0, x1);
+                    y += 2;
+                } else {
+                    D* const out[1] = {outRow(y)};
+                    FilterRows<1, S, A, D, O, KeepAlpha, S>(p, rowAt, out, x0, x1);
+                    y += 1;
+                }
+            }
         }
         return;
     }
-    // Ring of kh converted rows per strip of `chunk` elements; row r of the
-    // source (relative to the block's first window) sits in slot r mod kh.
+    // Ring of kh + 1 converted rows per strip of `chunk` elements; row r of
+    // the source (relative to the block's first window) sits in slot
+    // r mod (kh + 1).
     A* ring = static_cast<A*>(scratch);
-    const std::ptrdiff_t width = p.chunk + reach;
+    const std::ptrdiff_t width = p.chunk + reach, slots = p.kh + 1;
     for (std::ptrdiff_t x0 = begin; x0 < end; x0 += std::min(end - x0, p.chunk)) {
         const std::ptrdiff_t x1 = x0 + std::min(end - x0, p.chunk);
         const bool skipLast = KeepAlpha && x1 == p.n;
         auto convert = [&](std::ptrdiff_t r) {
             const S* row = byteOffset(static_cast<const S*>(p.src), y0 * p.srcAdvance + r * p.srcStep);
-            ConvertRow(row, ring + (r % p.kh) * width, x0, x1 + reach, skipLast);
+            ConvertRow(row, ring + (r % slots) * width, x0, x1 + reach, skipLast);
         };
         for (std::ptrdiff_t r = 0; r + 1 < p.kh; ++r) convert(r);
-        for (std::ptrdiff_t y = y0; y < y1; ++y) {
+        for (std::ptrdiff_t y = y0; y < y1;) {
             const std::ptrdiff_t first = y - y0;  // the window's top row
+            const std::ptrdiff_t slot0 = first % slots;
+            auto rowAt = [&](std::ptrdiff_t r, std::ptrdiff_t x) {
+                std::ptrdiff_t slot = slot0 + r;
+                if (slot >= slots) slot -= slots;
+                return ring + slot * width + (x - x0);
+            };
             convert(first + p.kh - 1);
-            const std::ptrdiff_t slot0 = first % p.kh;
-            D* out = byteOffset(static_cast<D*>(p.dst), y * p.dstStep);
-            FilterRow<S, A, D, O, KeepAlpha, A>(
-                p,
-                [&](std::ptrdiff_t u, std::ptrdiff_t x) {
-                    std::ptrdiff_t slot = slot0 + u;
-                    if (slot >= p.kh) slot -= p.kh;
-                    return ring + slot * width + (x - x0);
-                },
-                out, x0, x1);
+            if (y1 - y >= 2) {
+                convert(first + p.kh);
+                D* const out[2] = {outRow(y), outRow(y + 1)};
+                FilterRows<2, S, A, D, O, KeepAlpha, A>(p, rowAt, out, x0, x1);
+                y += 2;
+            } else {
+                D* const out[1] = {outRow(y)};
+                FilterRows<1, S, A, D, O, KeepAlpha, A>(p, rowAt, out, x0, x1);
+                y += 1;
+            }
         }
     }
 }

@@ -78,10 +78,11 @@ struct Plan {
     bool direct = false;
 };
 
-// Elements a strip of the ring holds: the ring of kh rows stays near 96 KiB
-// (within the second-level cache), at least 256 elements, at most the row.
-inline std::ptrdiff_t ringChunk(std::ptrdiff_t n, std::ptrdiff_t kh, std::ptrdiff_t reach, std::size_t laneBytes) {
-    std::ptrdiff_t chunk = static_cast<std::ptrdiff_t>(98304 / (laneBytes * kh)) - reach;
+// Elements of a strip: the kh rows a strip reads (converted rows of the
+// ring, or the source's own rows) stay near 24 KiB, within the first-level
+// cache; at least 256 elements, at most the row.
+inline std::ptrdiff_t stripChunk(std::ptrdiff_t n, std::ptrdiff_t kh, std::ptrdiff_t reach, std::size_t laneBytes) {
+    std::ptrdiff_t chunk = static_cast<std::ptrdiff_t>(24576 / (laneBytes * kh)) - reach;
     chunk = std::max<std::ptrdiff_t>(256, chunk / 64 * 64);
     return std::min(chunk, (n + 63) / 64 * 64);
 }
@@ -124,11 +125,9 @@ ZelStatus runPlan(const Plan& plan, const S* pSrc, int srcStep, D* pDst, int dst
                          : 1;
 
     std::size_t perThread = 0;
-    if (!p.direct) {
-        const std::ptrdiff_t reach = (std::ptrdiff_t{k.kw} - 1) * C;
-        p.chunk = ringChunk(p.n, k.kh, reach, sizeof(A));
-        perThread = (static_cast<std::size_t>(k.kh) * (p.chunk + reach) * sizeof(A) + 63) / 64 * 64;
-    }
+    const std::ptrdiff_t reach = (std::ptrdiff_t{k.kw} - 1) * C;
+    p.chunk = stripChunk(p.n, k.kh, reach, p.direct ? sizeof(S) : sizeof(A));
+    if (!p.direct) perThread = ((std::size_t{1} + k.kh) * (p.chunk + reach) * sizeof(A) + 63) / 64 * 64;
     Buffer<std::uint8_t> scratch;
     if (perThread != 0) {
         scratch = allocBuffer<std::uint8_t>(perThread * team);
