@@ -230,7 +230,7 @@ void LinearBlock(const filter::linear::Params& p, std::ptrdiff_t y0, std::ptrdif
     const std::ptrdiff_t C = p.channels;
     const std::ptrdiff_t reach = (p.kw - 1) * C;  // elements a window reaches right of its output element
     auto outRow = [&](std::ptrdiff_t y) { return byteOffset(static_cast<D*>(p.dst), y * p.dstStep); };
-    if (p.direct || std::is_same_v<S, A>) {
+    if (p.direct) {
         // Strips of `chunk` elements down the block, two destination rows at
         // a time: the source rows of a strip stay in the first-level cache
         // for the next rows.

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "core/memory.h"
 #include "filter/linear_members.h"
 #include "harness/checkorder.h"
 #include "harness/image.h"
@@ -496,6 +497,37 @@ TEST(LinearFilters, CallerRoundingModeDoesNotMatter) {
             ASSERT_EQ(st, zelStatusOk);
             EXPECT_EQ(during, FE_UPWARD) << "the caller's mode was not restored";
             EXPECT_TRUE(sameRoi(a, b, 1));
+        });
+    }
+}
+
+// Scratch rows that cannot be had: float data is read where it lies, with
+// the same result; integer data reports zelStatusNoMemory and writes nothing.
+TEST(LinearFilters, ScratchFailure) {
+    for (const LinearMember& m : members()) {
+        if (roundingMember(m)) continue;  // these allocate nothing
+        SCOPED_TRACE(m.name);
+        const LinearKernel k = kernelOf(m, m.shape == Shape1::Plane ? planeCases()[6] : lineCases()[3], 6);
+        withType(m, [&](auto t) {
+            using T = decltype(t);
+            const ZeliSize roi{21, 4};
+            const Placement at = placementOf(k, roi);
+            Image<T> src({at.width, at.height}, m.channels);
+            if constexpr (std::is_floating_point_v<T>) src.fillRandom(5, T(-100), T(100));
+            Image<T> a(roi, m.channels, m.written), b(roi, m.channels, m.written);
+            std::vector<std::uint8_t> buffer(4096);
+            const T* in = &src.at(at.ox, at.oy);
+            ASSERT_EQ(m.call(in, src.step(), a.roi(), a.step(), roi, k, buffer.data()), zelStatusOk);
+            failAllocationForTests(1);
+            const ZelStatus st = m.call(in, src.step(), b.roi(), b.step(), roi, k, buffer.data());
+            failAllocationForTests(0);
+            if (std::is_floating_point_v<T>) {
+                EXPECT_EQ(st, zelStatusOk);
+                EXPECT_TRUE(sameRoi(a, b, m.channels));
+            } else {
+                EXPECT_EQ(st, zelStatusNoMemory);
+                EXPECT_TRUE(b.unchanged());
+            }
         });
     }
 }
