@@ -12,6 +12,7 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "filter/linear_kernels.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
+#include <hwy/cache_control.h>
 #include <hwy/highway.h>
 
 #include <algorithm>
@@ -230,7 +231,7 @@ void LinearBlock(const filter::linear::Params& p, std::ptrdiff_t y0, std::ptrdif
     const std::ptrdiff_t C = p.channels;
     const std::ptrdiff_t reach = (p.kw - 1) * C;  // elements a window reaches right of its output element
     auto outRow = [&](std::ptrdiff_t y) { return byteOffset(static_cast<D*>(p.dst), y * p.dstStep); };
-    if (p.direct) {
+    if (p.direct || std::is_same_v<S, A>) {
         // Strips of `chunk` elements down the block, two destination rows at
         // a time: the source rows of a strip stay in the first-level cache
         // for the next rows.
@@ -239,6 +240,14 @@ void LinearBlock(const filter::linear::Params& p, std::ptrdiff_t y0, std::ptrdif
             for (std::ptrdiff_t y = y0; y < y1;) {
                 const S* origin = byteOffset(static_cast<const S*>(p.src), y * p.srcAdvance);
                 auto rowAt = [&](std::ptrdiff_t r, std::ptrdiff_t x) { return byteOffset(origin, r * p.srcStep) + x; };
+                // The two rows the next pass adds to the window, on their way
+                // to the cache while this pass computes.
+                if (y + 2 < y1 && p.srcAdvance == p.srcStep)
+                    for (std::ptrdiff_t r = p.kh + 1; r <= p.kh + 2; ++r) {
+                        const char* from = reinterpret_cast<const char*>(rowAt(r, x0));
+                        const char* to = reinterpret_cast<const char*>(rowAt(r, x1 + reach));
+                        for (; from < to; from += 64) hwy::Prefetch(from);
+                    }
                 if (y1 - y >= 2 && p.srcAdvance == p.srcStep) {
                     D* const out[2] = {outRow(y), outRow(y + 1)};
                     FilterRows<2, S, A, D, O, KeepAlpha, S>(p, rowAt, out, x0, x1);

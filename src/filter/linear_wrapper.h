@@ -113,7 +113,7 @@ ZelStatus runPlan(const Plan& plan, const S* pSrc, int srcStep, D* pDst, int dst
     p.shift = plan.shift;
     p.reciprocal = plan.reciprocal;
     p.divisor = plan.divisor;
-    p.direct = plan.direct || p.srcAdvance != p.srcStep;
+    p.direct = plan.direct || std::is_same_v<S, A> || p.srcAdvance != p.srcStep;
 
     // ROIs of at least 64 x 64 pixels fork when the work pays for the team;
     // a kernel's cost per byte grows with its taps.
@@ -131,10 +131,7 @@ ZelStatus runPlan(const Plan& plan, const S* pSrc, int srcStep, D* pDst, int dst
     Buffer<std::uint8_t> scratch;
     if (perThread != 0) {
         scratch = allocBuffer<std::uint8_t>(perThread * team);
-        // Float data can be read where it lies (the same sums, in the same
-        // order, only slower); integer data must be converted.
-        if (!scratch && !std::is_same_v<S, A>) return zelStatusNoMemory;
-        if (!scratch) p.direct = true;
+        if (!scratch) return zelStatusNoMemory;
     }
     std::optional<StandardFpEnvironment> environment;
     if (!std::is_integral_v<A> || p.division == 2) environment.emplace();

@@ -501,8 +501,8 @@ TEST(LinearFilters, CallerRoundingModeDoesNotMatter) {
     }
 }
 
-// Scratch rows that cannot be had: float data is read where it lies, with
-// the same result; integer data reports zelStatusNoMemory and writes nothing.
+// Scratch rows that cannot be had: integer data reports zelStatusNoMemory
+// and writes nothing; float data is read where it lies and needs none.
 TEST(LinearFilters, ScratchFailure) {
     for (const LinearMember& m : members()) {
         if (roundingMember(m)) continue;  // these allocate nothing
