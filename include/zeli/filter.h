@@ -512,13 +512,12 @@ ZELAPI ZelStatus zeliFilter32f_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u*
     ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
 
 /* Filter_32f, Filter_64f: float data, single (double for 64f) precision
-   sums, no clamping. Filter_32f keeps a mirrored copy of the kernel in
-   scratch memory; when that cannot be had it evaluates the same sums, in
-   the same order, straight from the caller's kernel, so it never reports
-   zelStatusNoMemory. Filter_64f takes a work buffer (null:
+   sums, no clamping. Both read the kernel and the source where they lie
+   and allocate nothing, so they never report zelStatusNoMemory (the float
+   row and column members likewise). Filter_64f takes a work buffer (null:
    zelStatusNullPtr, checked after the steps) of the size
-   zeliFilterGetBufSize_64f_C1R reports, and holds its mirrored kernel
-   there; it allocates nothing itself.
+   zeliFilterGetBufSize_64f_C1R reports; it is checked but the call needs
+   none of its bytes, and leaves them as they are.
 
    FilterGetBufSize_64f: pBufferSize null gives zelStatusNullPtr; kernel
    width or height or maxWidth below 1 zelStatusBadSize; otherwise
@@ -548,10 +547,12 @@ ZELAPI ZelStatus zeliFilterGetBufSize_64f_C1R(ZeliSize kernelSize, int maxWidth,
    the step check), then a null pBuffer zelStatusNullPtr. pBuffer is the
    caller's work buffer, of the size the matching
    zeliFilterRoundGetBufSize* reports for this kernel size and a maxWidth
-   of at least roi.width; the call stores its mirrored kernel in the
-   computing precision at the buffer's start (at most 8 * kernel width *
-   kernel height + 7 bytes) and nothing else, so a buffer queried under
-   another thread setting serves as well. These members allocate nothing.
+   of at least roi.width. Round16s and Round32s store their kernel,
+   mirrored and in double precision, at the buffer's first 8-byte boundary
+   (at most 8 * kernel width * kernel height + 7 bytes) and write nothing
+   else there; Round32f reads its kernel in place and leaves the buffer
+   alone. A buffer queried under another thread setting therefore serves as
+   well. These members allocate nothing.
 
    FilterRoundGetBufSize: pBufferSize null gives zelStatusNullPtr; kernel
    width or height or maxWidth below 1 zelStatusBadSize; otherwise

@@ -2,13 +2,15 @@
 //
 // Every destination vector sums its taps in one fixed order: the first tap's
 // product, then each further product added, kernel row by kernel row. Four
-// vectors are worked side by side so that the additions of one vector do not
-// wait for each other; the remainder runs one vector, then one lane, at a
-// time with the same arithmetic. Integer sources are read in one of two ways:
-// converted once per row into a ring of kh rows of accumulator lanes (each
-// source row then serves all kh output rows that need it), or converted at
-// every tap (direct plans: float data, the rounding-mode members, strided
-// windows). A row of AC4 pixels is never read at its last alpha element.
+// vectors side by side and two destination rows per pass keep independent
+// additions in flight and let the rows share their loads; the remainder runs
+// one vector, then one lane, at a time with the same arithmetic. The block
+// is worked in strips of columns whose source rows stay in the first-level
+// cache. Integer sources are converted once per row into a ring of kh + 1
+// rows of accumulator lanes (each row then serves every output row that
+// needs it); float data, the rounding-mode members and strided windows read
+// the source at every tap (direct plans). A row of AC4 pixels is never read
+// at its last alpha element.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "filter/linear_kernels.cpp"
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
