@@ -82,10 +82,7 @@ ZelStatus zeliDecimateFilterColumn_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u*
     plan.taps = triangle.taps.get();
     plan.tapStep = 1;
     plan.k = Shape{1, 2 * factor - 1, 0, factor - 1};
-    const Division div = divisionOf(factor * factor);
-    plan.division = div.mode;
-    plan.shift = div.shift;
-    plan.reciprocal = div.reciprocal;
+    plan.dividedBy(factor * factor);
     plan.direct = true;
     return runPlan<Zel8u, std::int32_t, Zel8u, Out::Divide, zel::Layout::C1>(
         plan, pSrc, srcStep, pDst, dstStep, roi, static_cast<std::ptrdiff_t>(srcStep) * factor);

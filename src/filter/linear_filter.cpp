@@ -12,12 +12,8 @@ ZelStatus integerKernel(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSi
     const Shape k{kernelSize.width, kernelSize.height, anchor.x, anchor.y};
     if (ZelStatus st = commonChecks<T, T, L>(pSrc, srcStep, pDst, dstStep, roi, pKernel, k, &divisor, StepRule::Window))
         return st;
-    Plan plan = inPlace(pKernel, k);
-    const Division div = divisionOf(divisor);
-    plan.division = div.mode;
-    plan.shift = div.shift;
-    plan.reciprocal = div.reciprocal;
-    return runPlan<T, std::int32_t, T, Out::Divide, L>(plan, pSrc, srcStep, pDst, dstStep, roi);
+    return runPlan<T, std::int32_t, T, Out::Divide, L>(inPlace(pKernel, k).dividedBy(divisor), pSrc, srcStep, pDst,
+                                                       dstStep, roi);
 }
 
 // Filter32f on integer data (and Filter_16u through it), Filter_32f and

@@ -26,6 +26,7 @@
 #include "core/image.h"
 #include "core/store_under_mask-inl.h"
 #include "filter/linear_filter.h"
+#include "filter/two_pass-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace zel {
@@ -71,19 +72,11 @@ HWY_INLINE void Store(hn::VFromD<DD> v, DD dd, hn::TFromD<DD>* out, std::ptrdiff
     else hn::StoreU(v, dd, out + x);
 }
 
-// 32-bit lanes clamped to the range of T and narrowed.
+// 32-bit lanes clamped to the range of T and narrowed (the fixed filters'
+// saturation).
 template <class DD, class V>
 HWY_INLINE hn::VFromD<DD> Narrow(DD dd, V v) {
-    using T = hn::TFromD<DD>;
-    using I = hn::TFromV<V>;
-    if constexpr (std::is_same_v<T, I>) {
-        return v;
-    } else {
-        const hn::DFromV<V> di;
-        v = hn::Min(hn::Max(v, hn::Set(di, I(std::numeric_limits<T>::lowest()))),
-                    hn::Set(di, I(std::numeric_limits<T>::max())));
-        return hn::DemoteTo(dd, v);
-    }
+    return filter_detail::SaturateTo(dd, v);
 }
 
 // A float or double value clamped to one beyond the range of T (so that
@@ -209,6 +202,20 @@ HWY_INLINE void FilterRows(const Params& p, const RowAt& rowAt, D* const (&out)[
     }
 }
 
+// Destination rows y and y + 1 (two) or row y alone; returns the rows done.
+template <class S, class A, class D, Out O, bool KeepAlpha, class E, class RowAt, class OutRow>
+HWY_INLINE std::ptrdiff_t PassRows(const Params& p, const RowAt& rowAt, const OutRow& outRow, std::ptrdiff_t y,
+                                   bool two, std::ptrdiff_t x0, std::ptrdiff_t x1) {
+    if (two) {
+        D* const out[2] = {outRow(y), outRow(y + 1)};
+        FilterRows<2, S, A, D, O, KeepAlpha, E>(p, rowAt, out, x0, x1);
+        return 2;
+    }
+    D* const out[1] = {outRow(y)};
+    FilterRows<1, S, A, D, O, KeepAlpha, E>(p, rowAt, out, x0, x1);
+    return 1;
+}
+
 // Elements [lo, hi) of a source row converted into accumulator lanes at
 // ring[0 ..); `skipLast` leaves the last element (an AC4 row's last alpha)
 // unread and zero.
@@ -250,15 +257,8 @@ void LinearBlock(const filter::linear::Params& p, std::ptrdiff_t y0, std::ptrdif
                         const char* to = reinterpret_cast<const char*>(rowAt(r, x1 + reach));
                         for (; from < to; from += 64) hwy::Prefetch(from);
                     }
-                if (y1 - y >= 2 && p.srcAdvance == p.srcStep) {
-                    D* const out[2] = {outRow(y), outRow(y + 1)};
-                    FilterRows<2, S, A, D, O, KeepAlpha, S>(p, rowAt, out, x0, x1);
-                    y += 2;
-                } else {
-                    D* const out[1] = {outRow(y)};
-                    FilterRows<1, S, A, D, O, KeepAlpha, S>(p, rowAt, out, x0, x1);
-                    y += 1;
-                }
+                y += PassRows<S, A, D, O, KeepAlpha, S>(p, rowAt, outRow, y,
+                                                       y1 - y >= 2 && p.srcAdvance == p.srcStep, x0, x1);
             }
         }
         return;
@@ -284,17 +284,10 @@ void LinearBlock(const filter::linear::Params& p, std::ptrdiff_t y0, std::ptrdif
                 if (slot >= slots) slot -= slots;
                 return ring + slot * width + (x - x0);
             };
+            const bool two = y1 - y >= 2;
             convert(first + p.kh - 1);
-            if (y1 - y >= 2) {
-                convert(first + p.kh);
-                D* const out[2] = {outRow(y), outRow(y + 1)};
-                FilterRows<2, S, A, D, O, KeepAlpha, A>(p, rowAt, out, x0, x1);
-                y += 2;
-            } else {
-                D* const out[1] = {outRow(y)};
-                FilterRows<1, S, A, D, O, KeepAlpha, A>(p, rowAt, out, x0, x1);
-                y += 1;
-            }
+            if (two) convert(first + p.kh);
+            y += PassRows<S, A, D, O, KeepAlpha, A>(p, rowAt, outRow, y, two, x0, x1);
         }
     }
 }

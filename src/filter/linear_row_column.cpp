@@ -18,12 +18,8 @@ ZelStatus integerLine(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize
     if (ZelStatus st = commonChecks<T, T, L>(pSrc, srcStep, pDst, dstStep, roi, pKernel, k, &divisor,
                                              Row ? StepRule::Window : StepRule::Width))
         return st;
-    Plan plan = inPlace(pKernel, k);
-    const Division div = divisionOf(divisor);
-    plan.division = div.mode;
-    plan.shift = div.shift;
-    plan.reciprocal = div.reciprocal;
-    return runPlan<T, std::int32_t, T, Out::Divide, L>(plan, pSrc, srcStep, pDst, dstStep, roi);
+    return runPlan<T, std::int32_t, T, Out::Divide, L>(inPlace(pKernel, k).dividedBy(divisor), pSrc, srcStep, pDst,
+                                                       dstStep, roi);
 }
 
 template <bool Row, class T, Layout L>

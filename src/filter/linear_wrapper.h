@@ -76,6 +76,15 @@ struct Plan {
     float reciprocal = 1.0f;
     double divisor = 1.0;
     bool direct = false;
+
+    // Integer sums divided by `divisor` (Out::Divide), the way chosen once.
+    Plan& dividedBy(int divisor) {
+        const Division div = divisionOf(divisor);
+        division = div.mode;
+        shift = div.shift;
+        reciprocal = div.reciprocal;
+        return *this;
+    }
 };
 
 // Elements of a strip: the kh rows a strip reads (converted rows of the
