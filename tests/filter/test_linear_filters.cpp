@@ -605,9 +605,10 @@ TEST(DecimateFilters, TriangleMeanOfEveryFactorThSample) {
                     for (int y = 0, i = 0; y < roi.height; ++y)
                         for (int x = 0; x < roi.width; ++x, ++i) ASSERT_EQ(dst.at(x, y), want[i]) << x << ", " << y;
                 });
-                if (factor == 1)
+                if (factor == 1) {  // a copy
                     for (int y = 0; y < roi.height; ++y)
                         for (int x = 0; x < roi.width; ++x) EXPECT_EQ(dst.at(x, y), src.at(x, y));
+                }
             }
         }
     }
