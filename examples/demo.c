@@ -377,6 +377,27 @@ int main(int argc, char** argv) {
         zeliFree(stripes);
         zeliFree(picture);
     }
+    /* User kernels on the bordered picture: an emboss (a true convolution,
+       so the kernel is mirrored over the picture: light seems to come from
+       the lower right) and a horizontal motion blur of five pixels. */
+    {
+        static const Zel32s emboss[9] = {-2, -1, 0, -1, 1, 1, 0, 1, 2};
+        static const Zel32f streak[5] = {0.2f, 0.2f, 0.2f, 0.2f, 0.2f};
+        int embossedStep = 0, streakedStep = 0;
+        Zel8u* embossed = zeliMalloc_8u_C3(size.width, size.height, &embossedStep);
+        Zel8u* streaked = zeliMalloc_8u_C3(size.width, size.height, &streakedStep);
+        if (!embossed || !streaked) return 1;
+        STEP("Filter_8u_C3R: 3x3 emboss kernel, divisor 1",
+             zeliFilter_8u_C3R(inside, borderedStep, embossed, embossedStep, size, emboss, (ZeliSize){3, 3},
+                               (ZeliPoint){1, 1}, 1));
+        save("embossed.png", embossed, embossedStep, size, 3);
+        STEP("FilterRow32f_8u_C3R: 5-pixel motion blur",
+             zeliFilterRow32f_8u_C3R(inside, borderedStep, streaked, streakedStep, size, streak, 5, 2));
+        save("motion_blur.png", streaked, streakedStep, size, 3);
+        zeliFree(streaked);
+        zeliFree(embossed);
+    }
+
     zeliFree(brighter);
     zeliFree(cut);
     zeliFree(edges);

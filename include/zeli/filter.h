@@ -580,6 +580,403 @@ ZELAPI ZelStatus zeliFilterMedianColor_32f_AC4R(const Zel32f* pSrc, int srcStep,
 ZELAPI ZelStatus zeliFilterMedianWeightedCenter3x3_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst,
     int dstStep, ZeliSize roi, int weight);
 
+/* ==== General linear filters ============================================ */
+/* A user kernel of kernelSize.width x kernelSize.height elements (row-major,
+   top row first) is applied as a true convolution with its anchor element
+   over the output pixel:
+
+       dst(x, y) = sum over kernel rows i, columns j of
+                   K[i][j] * src(x + anchor.x - j, y + anchor.y - i)
+
+   so the last kernel element multiplies the top-left pixel of the window
+   and the first one the bottom-right pixel (a symmetric kernel gives the
+   same as a correlation). The window of dst(x, y) spans source columns
+   x - (kw - 1 - anchor.x) .. x + anchor.x and rows y - (kh - 1 - anchor.y)
+   .. y + anchor.y; the caller provides those pixels around the ROI (a
+   border from zeliCopy*Border). The anchor is not range-checked: any value
+   moves the window. C3 and C4 filter every channel with the same kernel,
+   AC4 the three colour channels, leaving the destination alpha unwritten
+   (the source alpha is not read).
+
+   Checks, in order: pSrc, pDst or pKernel null (zelStatusNullPtr); ROI
+   width or height, kernel width or kernel height below 1
+   (zelStatusBadSize); divisor 0 (zelStatusZeroDivisor, integer kernels);
+   srcStep below the bytes of roi.width + kernel width - 1 pixels or dstStep
+   below the bytes of roi.width pixels (zelStatusBadStep); then the
+   members' own arguments (rounding mode, work buffer) as stated below;
+   finally scratch that cannot be allocated (zelStatusNoMemory). Nothing is
+   written on an error.
+
+   Results do not depend on the processor's vector width, the thread count
+   or the caller's floating-point environment: float sums are formed in one
+   order, kernel row by kernel row from the top of the window, left to
+   right within a row, each product rounded and then added (no fused
+   multiply-add); integer sums are exact (32-bit, wrapping only when a
+   kernel's weights are large enough to overflow them). ROIs of at least
+   64 x 64 pixels may be split into bands of rows among the threads. */
+
+/* Filter (integer kernel, divisor). 8u and 16s: the products are summed in
+   a signed 32-bit integer S, then divided by the divisor d in one of three
+   ways chosen once per call: d = 1: S saturated; d = 2^n: S / 2^n rounded
+   to nearest, ties to even, saturated (8u: S below 1 gives 0; 16s: negative
+   sums round the same way, ties to even, through an arithmetic shift); any
+   other d, every negative one included: q = S * r in single precision with
+   r the float nearest 1/d, rounded to nearest even and saturated (8u: q >=
+   255 gives 255, q <= 0.5 gives 0). 16u: the kernel is converted to single
+   precision, each element times the single-precision reciprocal of d, and
+   the call continues as zeliFilter32f_16u with that kernel; it checks the
+   kernel pointer, the kernel size and the divisor first (so a zero divisor
+   is reported even with a null image), then converts the kernel (kernels of
+   more than 256 elements on the heap: zelStatusNoMemory), then runs the
+   float member's checks. */
+ZELAPI ZelStatus zeliFilter_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+ZELAPI ZelStatus zeliFilter_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor);
+
+/* Filter32f: a single-precision kernel on integer data. The sum is formed
+   in single precision, rounded to nearest with ties to even and saturated
+   to the destination type (8u: >= 255 gives 255, <= 0.5 gives 0). */
+ZELAPI ZelStatus zeliFilter32f_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter32f_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+
+/* Filter_32f, Filter_64f: float data, single (double for 64f) precision
+   sums, no clamping. Both read the kernel and the source where they lie
+   and allocate nothing, so they never report zelStatusNoMemory (the float
+   row and column members likewise). Filter_64f takes a work buffer (null:
+   zelStatusNullPtr, checked after the steps) of the size
+   zeliFilterGetBufSize_64f_C1R reports; it is checked but the call needs
+   none of its bytes, and leaves them as they are.
+
+   FilterGetBufSize_64f: pBufferSize null gives zelStatusNullPtr; kernel
+   width or height or maxWidth below 1 zelStatusBadSize; otherwise
+   *pBufferSize = (8 * maxWidth + 16 * kernel width * kernel height + 43)
+   bytes times the thread setting (zelGetNumThreads), as for the Filter_Round
+   queries. A size beyond the range of int is zelStatusBadSize too. */
+ZELAPI ZelStatus zeliFilter_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep, ZeliSize roi,
+    const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilter_64f_C1R(const Zel64f* pSrc, int srcStep, Zel64f* pDst, int dstStep, ZeliSize roi,
+    const Zel64f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilterGetBufSize_64f_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+
+/* Filter_Round: as Filter32f (Round32f: single-precision kernel and sum) or
+   with an integer kernel and divisor (Round16s: 16-bit kernel on 8u data;
+   Round32s: 32-bit kernel on 16-bit data; the sum S is formed exactly in
+   double precision, which holds every sum below 2^53 in magnitude, and
+   divided by the divisor in double precision), but the value becomes a
+   destination value by the rounding mode rndMode: 0 toward zero, 1 to
+   nearest with ties to even, 2 to nearest with ties away from zero; then
+   it is saturated. Other rndMode values give zelStatusBadRoundMode (after
+   the step check), then a null pBuffer zelStatusNullPtr. pBuffer is the
+   caller's work buffer, of the size the matching
+   zeliFilterRoundGetBufSize* reports for this kernel size and a maxWidth
+   of at least roi.width. Round16s and Round32s store their kernel,
+   mirrored and in double precision, at the buffer's first 8-byte boundary
+   (at most 8 * kernel width * kernel height + 7 bytes) and write nothing
+   else there; Round32f reads its kernel in place and leaves the buffer
+   alone. A buffer queried under another thread setting therefore serves as
+   well. These members allocate nothing.
+
+   FilterRoundGetBufSize: pBufferSize null gives zelStatusNullPtr; kernel
+   width or height or maxWidth below 1 zelStatusBadSize; otherwise
+   *pBufferSize = (8 * maxWidth + 16 * kernel width * kernel height + 43)
+   times the thread setting, one part per thread; a size beyond the range of
+   int is zelStatusBadSize. */
+ZELAPI ZelStatus zeliFilter_Round16s_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round16s_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel16s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32f_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, ZeliSize kernelSize, ZeliPoint anchor, ZelRoundingMode rndMode,
+    Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilter_Round32s_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, ZeliSize kernelSize, ZeliPoint anchor, int divisor,
+    ZelRoundingMode rndMode, Zel8u* pBuffer);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_C3R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_C4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize16s_8u_AC4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_C3R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_C4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_8u_AC4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_C3R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_C4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16s_AC4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_C3R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_C4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32f_16u_AC4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_C3R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_C4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16s_AC4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_C1R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_C3R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_C4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+ZELAPI ZelStatus zeliFilterRoundGetBufSize32s_16u_AC4R(ZeliSize kernelSize, int maxWidth, int* pBufferSize);
+
+/* FilterRow: the 2-D filter with a kernel one row high (kernelSize
+   elements, xAnchor the anchor column): dst(x, y) = sum over j of K[j] *
+   src(x + xAnchor - j, y). Checks as the 2-D filters (kernelSize below 1 is
+   zelStatusBadSize), srcStep against roi.width + kernelSize - 1 pixels.
+   8u with an integer kernel divides as Filter_8u; 16s and 16u convert the
+   integer kernel to single precision (each element times the
+   single-precision reciprocal of the divisor, checking the kernel pointer,
+   kernelSize and divisor first, as Filter_16u) and continue as
+   FilterRow32f. FilterRow32f rounds like Filter32f, FilterRow_32f sums like
+   Filter_32f. */
+ZELAPI ZelStatus zeliFilterRow_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep, ZeliSize roi,
+    const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int xAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow32f_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+ZELAPI ZelStatus zeliFilterRow_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int xAnchor);
+
+/* FilterColumn: the 2-D filter with a kernel one column wide (yAnchor the
+   anchor row): dst(x, y) = sum over i of K[i] * src(x, y + yAnchor - i).
+   Both steps are checked against roi.width pixels only. Types and
+   rounding as FilterRow. */
+ZELAPI ZelStatus zeliFilterColumn_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32s* pKernel, int kernelSize, int yAnchor, int divisor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn32f_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+ZELAPI ZelStatus zeliFilterColumn_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, const Zel32f* pKernel, int kernelSize, int yAnchor);
+
+/* DecimateFilterRow, DecimateFilterColumn: a low-pass filter along the row
+   (the column) followed by keeping one sample in `factor`. Destination
+   pixel (x, y) is the triangle-weighted mean of the 2 * factor - 1 source
+   pixels centred on source pixel (x * factor, y) (Row) or (x, y * factor)
+   (Column), weights factor - |k| for k = -(factor - 1) .. factor - 1, whose
+   sum is factor^2; the sum is divided by factor^2 as Filter_8u divides by
+   its divisor (a power of two: to nearest, ties to even; other squares
+   through the single-precision reciprocal). Factor 1 copies the source;
+   factor 2 weights 1 2 1 / 4, factor 3 weights 1 2 3 2 1 / 9. roi is the
+   destination's size; the source pointer addresses the source pixel of
+   destination pixel (0, 0), and the caller provides factor - 1 pixels
+   (rows) before it and after the last one used. Checks, in order: pSrc or
+   pDst null (zelStatusNullPtr), ROI width or height below 1
+   (zelStatusBadSize), factor outside 1..256 (zelStatusBadUpDownFactor),
+   then steps (zelStatusBadStep): Row checks srcStep against
+   (roi.width + 1) * factor - 1 pixels, Column against roi.width pixels;
+   dstStep against roi.width pixels. */
+ZELAPI ZelStatus zeliDecimateFilterRow_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, int factor);
+ZELAPI ZelStatus zeliDecimateFilterColumn_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, int factor);
+
 #ifdef __cplusplus
 }
 #endif

@@ -18,7 +18,7 @@ import sys
 ELEMENTS = {  # type suffix: (C type, bytes, floating point)
     '8u': ('Zel8u', 1, False), '8s': ('Zel8s', 1, False), '16u': ('Zel16u', 2, False), '16s': ('Zel16s', 2, False),
     '32s': ('Zel32s', 4, False), '32f': ('Zel32f', 4, True), '16sc': ('Zel16sc', 4, False),
-    '32sc': ('Zel32sc', 8, False), '32fc': ('Zel32fc', 8, True),
+    '32sc': ('Zel32sc', 8, False), '32fc': ('Zel32fc', 8, True), '64f': ('Zel64f', 8, True),
     '32u': ('Zel32u', 4, False), '24u': ('Zel8u', 3, False),  # palette entries; 24u: three bytes a pixel
     '1u': ('Zel8u', 1, False),  # 1-bit images: the sweep gives them a byte a pixel, more than they use
 }
@@ -73,6 +73,14 @@ OP_CHECKS = {'Threshold': 'OpCheck::thresholdLast', 'Threshold_Val': 'OpCheck::t
 # Constant arrays: the context slot each parameter name draws from.
 LIMIT_SLOTS = {'threshold': 1, 'thresholdLT': 1, 'thresholdGT': 2, 'valueLT': 3, 'valueGT': 4}
 
+# User-kernel filters check their steps against the window (or the width);
+# the sweep's kernels always fit the steps it passes.
+LINEAR_FILTERS = ('Filter', 'Filter32f', 'Filter_Round16s', 'Filter_Round32f', 'Filter_Round32s', 'FilterRow',
+                  'FilterRow32f', 'FilterColumn', 'FilterColumn32f', 'DecimateFilterRow', 'DecimateFilterColumn')
+for fam in LINEAR_FILTERS:
+    STEP_CHECKS[fam] = lambda t, lay: True
+KERNEL_TYPES = ('Zel32s', 'Zel32f', 'Zel64f', 'Zel16s')
+
 # Float Sobel members with a mask code take any value other than 33 as 5x5.
 LENIENT_MASKS = ('FilterSobelHorizMask', 'FilterSobelVertMask', 'FilterSobelHorizSecond',
                  'FilterSobelVertSecond', 'FilterSobelCross')
@@ -123,6 +131,7 @@ FRAME = [
     (r'zeliGetLibVersion$', 'version'),
     (r'zelConstantOfNAN_(32f|64f)$', 'nan'),
     (r'zeliDotProdCol_32f_L2$', 'dotProdCol'),
+    (r'zeliFilter(Round)?GetBufSize\w*$', 'bufferSize'),
 ]
 
 STEP_OF = {'pSrc': 'srcStep', 'pSrc1': 'src1Step', 'pSrc2': 'src2Step', 'pDst': 'dstStep',
@@ -185,6 +194,7 @@ def image_entry(name, params):
     out_value = False
     mask = 'MaskCheck::none'
     order = 0
+    kernel_args = divisor = factor = False
     for ptype, pname, arr in params:
         base = pname
         if base in STEP_OF:
@@ -347,6 +357,27 @@ def image_entry(name, params):
             args.append('c.bitSize')
         elif pname == 'alphaValue' and ptype == 'int':
             args.append('c.alphaValue')
+        elif pname == 'pKernel' and ptype.replace('const ', '') in KERNEL_TYPES:
+            args.append('c.kernel<%s>()' % ptype.replace('const ', ''))
+            nulls.append('{"pKernel", -5, -1}')
+            kernel_args = True
+        elif pname == 'kernelSize' and ptype == 'ZeliSize':
+            args.append('c.kernelSize()')
+        elif pname == 'kernelSize' and ptype == 'int':
+            args.append('c.columnKernelLength()' if 'Column' in family else 'c.rowKernelLength()')
+        elif pname == 'anchor' and ptype == 'ZeliPoint':
+            args.append('ZeliPoint{c.anchorX, c.anchorY}')
+        elif pname in ('xAnchor', 'yAnchor') and ptype == 'int':
+            args.append('c.anchorX' if pname[0] == 'x' else 'c.anchorY')
+        elif pname == 'divisor' and ptype == 'int':
+            args.append('c.divisor')
+            divisor = True
+        elif pname == 'pBuffer' and ptype == 'Zel8u':
+            args.append('c.workBuffer()')
+            nulls.append('{"pBuffer", -6, -1}')
+        elif pname == 'factor' and ptype == 'int':
+            args.append('c.factor')
+            factor = True
         else:
             fail('%s: parameter "%s %s" has no rule' % (name, ptype, pname))
     if len(steps) != len(ops):
@@ -357,11 +388,12 @@ def image_entry(name, params):
     op_check = OP_CHECKS.get(family, 'OpCheck::none')
     crossable = family in CROSSABLE
     return ('{"%s", "%s", {%s}, {%s}, {%s}, %s, %s, %s, %d, %s, %s, %s, %s, %s, %s,\n'
-            ' [](SweepContext& c) -> int { return %s(%s); }},\n') % (
+            ' [](SweepContext& c) -> int { return %s(%s); }, %s, %s, %s},\n') % (
         name, family, ', '.join(ops), ', '.join(nulls), ', '.join(str(s) for s in steps),
         'true' if checks_steps else 'false', 'true' if rnd else 'false', mask, order,
         'true' if square else 'false', '"%s"' % layout, op_check, 'true' if eps else 'false',
-        'true' if crossable else 'false', 'true' if out_value else 'false', name, ', '.join(args))
+        'true' if crossable else 'false', 'true' if out_value else 'false', name, ', '.join(args),
+        'true' if kernel_args else 'false', 'true' if divisor else 'false', 'true' if factor else 'false')
 
 
 def frame_entry(name, ret, kind):
@@ -380,6 +412,7 @@ def frame_entry(name, ret, kind):
                 'static_cast<ZelStatus (*)(const Zel32f* const*, const Zel32f*, int, Zel32f*, int)>(&%s))},\n') % (
             name, name)
     signature = {'free': 'void (*)(void*)', 'setThreads': 'ZelStatus (*)(int)',
+                 'bufferSize': 'ZelStatus (*)(ZeliSize, int, int*)',
                  'getIntOut': 'ZelStatus (*)(int*)', 'version': 'const ZelLibraryVersion* (*)()'}[kind]
     return '{"%s", FrameKind::%s, 0, reinterpret_cast<void (*)()>(static_cast<%s>(&%s))},\n' % (
         name, kind, signature, name)

@@ -90,6 +90,9 @@ struct CallEntry {
     bool crossable;     // lower and upper thresholds that must not cross
     bool outValue;      // writes only through output pointers (Otsu, the statistics)
     int (*call)(SweepContext&);
+    bool hasKernel = false;   // a user kernel: its size below 1 is rejected
+    bool hasDivisor = false;  // a divisor: 0 is rejected
+    bool hasFactor = false;   // a decimation factor: 0 is rejected
 };
 
 // Border members take a destination size and the source's place in it.
@@ -99,7 +102,7 @@ inline bool hasBorder(const CallEntry& e) {
     return false;
 }
 
-enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan, dotProdCol };
+enum class FrameKind { malloc, free, setThreads, getIntOut, version, nan, dotProdCol, bufferSize };
 
 struct FrameEntry {
     const char* name;
@@ -141,6 +144,10 @@ public:
     ZeliPoint anchor{1, 1};
     int weight = 1;
     int alphaType = 0;             // alpha compositing: zelCompositeOver ... PlusPremultiplied
+    // User-kernel filters: kernel extent, anchor (inside or just outside),
+    // divisor, decimation factor; zeroKernel breaks the kernel size.
+    int kernelW = 3, kernelH = 3, anchorX = 1, anchorY = 1, divisor = 3, factor = 1;
+    bool zeroKernel = false;
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -170,6 +177,12 @@ public:
             for (int k = 0; k < 8; ++k) shapes_[1][c][k] = kLevels[k] + 0.01 * c, shapes_[0][c][k] = kValues[k];
         }
         alphaType = 0;
+        kernelW = kernelH = 3;
+        anchorX = anchorY = 1;
+        divisor = 3;
+        factor = 1;
+        zeroKernel = false;
+        for (int k = 0; k < kKernelElements; ++k) kernelValues_[k] = (k * 7) % 9 - 3;
         outByte_ = outBefore_ = 0xa5;
         std::memset(outStore_, 0xa5, sizeof outStore_);
         nullOperand_ = nullPlane_ = -100;
@@ -237,6 +250,13 @@ public:
             cmpOp = rng() % 2 ? zelCompareLess : zelCompareGreater;
         else
             cmpOp = static_cast<int>(rng() % 5);
+        kernelW = std::uniform_int_distribution<int>(1, 5)(rng);
+        kernelH = std::uniform_int_distribution<int>(1, 5)(rng);
+        anchorX = std::uniform_int_distribution<int>(-1, kernelW)(rng);
+        anchorY = std::uniform_int_distribution<int>(-1, kernelH)(rng);
+        static constexpr int kDivisors[] = {1, 2, 4, 16, 3, 7, -1, -5};
+        divisor = kDivisors[rng() % std::size(kDivisors)];
+        for (int& v : kernelValues_) v = std::uniform_int_distribution<int>(-3, 6)(rng);
         static constexpr float kEps[] = {0.f, 0.125f, 1.f, 30.f, 1000.f, 1e30f};
         eps = kEps[rng() % std::size(kEps)];
         if (entry_->orderLength > 0) {
@@ -358,6 +378,21 @@ public:
         for (int k = 0; k < 3; ++k) tablePtrs_[k] = nullOperand_ == -23 && nullPlane_ == k ? nullptr : paletteTable(k);
         return reinterpret_cast<const E* const*>(tablePtrs_);
     }
+    // The kernel's elements (floats are quarters of the integers).
+    template <class K>
+    const K* kernel() {
+        if (nullOperand_ == -5) return nullptr;
+        K* out = reinterpret_cast<K*>(kernelStore_);
+        for (int k = 0; k < kKernelElements; ++k)
+            out[k] = std::is_floating_point_v<K> ? static_cast<K>(kernelValues_[k] * 0.25) : static_cast<K>(kernelValues_[k]);
+        return out;
+    }
+    // Kernel widths are cut to what the source step holds, so that rows
+    // laid out tight still make valid calls.
+    ZeliSize kernelSize() const { return {zeroKernel ? 0 : fittingWidth(), kernelH}; }
+    int rowKernelLength() const { return zeroKernel ? 0 : fittingWidth(); }
+    int columnKernelLength() const { return zeroKernel ? 0 : kernelH; }
+    Zel8u* workBuffer() { return nullOperand_ == -6 ? nullptr : workBuffer_.data(); }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
     // Breaking one argument.
@@ -562,6 +597,16 @@ private:
     std::array<int, 4> order_{};
     int nullOperand_ = -100, nullPlane_ = -100;
     int aliasSource_ = -1, aliasTarget_ = -1;
+    // The widest kernel the source operand's step holds beside the ROI.
+    int fittingWidth() const {
+        if (ops_.empty() || ops_[0].stepArg <= 0 || roi.width < 1) return kernelW;
+        const int room = ops_[0].stepArg / ops_[0].pixelBytes - roi.width + 1;
+        return std::max(1, std::min(kernelW, room));
+    }
+    static constexpr int kKernelElements = 25;
+    int kernelValues_[kKernelElements] = {};
+    alignas(8) std::uint8_t kernelStore_[kKernelElements * 8] = {};
+    std::vector<std::uint8_t> workBuffer_ = std::vector<std::uint8_t>(4096);
 };
 
 }  // namespace zel::contract

@@ -104,6 +104,12 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
         for (int mode : {3, -1, 1000})
             list.push_back({"rndMode " + std::to_string(mode), zelStatusBadRoundMode,
                             [mode](SweepContext& c) { c.rndMode = mode; }});
+    if (e.hasKernel)
+        list.push_back({"kernel size 0", zelStatusBadSize, [](SweepContext& c) { c.zeroKernel = true; }});
+    if (e.hasDivisor)
+        list.push_back({"divisor 0", zelStatusZeroDivisor, [](SweepContext& c) { c.divisor = 0; }});
+    if (e.hasFactor)
+        list.push_back({"factor 0", zelStatusBadUpDownFactor, [](SweepContext& c) { c.factor = 0; }});
     if (e.maskCheck == MaskCheck::strict)
         for (int mask : {35, 53, 13, 0, -1})
             list.push_back({"mask " + std::to_string(mask), zelStatusBadMaskSize,
@@ -456,6 +462,20 @@ TEST(ContractSweep, FrameFunctionsKeepTheirContracts) {
                 EXPECT_EQ(dot(broken, k, 2, out, 3), zelStatusNullPtr);
                 EXPECT_EQ(out[1], 4.f);
                 gCalls += 7;
+                break;
+            }
+            case FrameKind::bufferSize: {
+                // Work-buffer sizes of the user-kernel filters: one part per thread.
+                auto query = as<ZelStatus (*)(ZeliSize, int, int*)>(f);
+                int size = -1;
+                EXPECT_EQ(query({3, 3}, 100, nullptr), zelStatusNullPtr);
+                EXPECT_EQ(query({0, 3}, 100, &size), zelStatusBadSize);
+                EXPECT_EQ(query({3, 3}, 0, &size), zelStatusBadSize);
+                EXPECT_EQ(size, -1);
+                zelSetNumThreads(2);
+                EXPECT_EQ(query({3, 3}, 100, &size), zelStatusOk);
+                EXPECT_EQ(size, 2 * (8 * 100 + 16 * 9 + 43));
+                gCalls += 3;
                 break;
             }
         }

@@ -1,0 +1,89 @@
+// User-kernel filters against OpenCV at 1920x1080, on one thread and on two
+// ("_mt"): Filter32f on 8u and Filter_32f with 3x3, 5x5 and 11x11 kernels
+// against cv::filter2D (given the mirrored kernel: OpenCV correlates), the
+// 32f row and column filters against cv::sepFilter2D with a one-tap other
+// direction. Sources carry a border wide enough for the kernel; OpenCV
+// filters the ROI of the bordered image and so reads the same neighbours.
+#include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
+
+#include "bench_util.h"
+
+namespace {
+
+using zel::bench::registerSized;
+
+const std::vector<ZeliSize> kSizes = {{1920, 1080}};
+constexpr int kBorder = 5;
+
+struct Frame {
+    cv::Mat bordered, src, dst, kernel, mirrored;
+    Frame(ZeliSize s, int type, int kw, int kh)
+        : bordered(s.height + 2 * kBorder, s.width + 2 * kBorder, type), dst(s.height, s.width, type),
+          kernel(kh, kw, CV_32F) {
+        cv::randu(bordered, 0, 255);
+        src = bordered(cv::Rect(kBorder, kBorder, s.width, s.height));
+        cv::randu(kernel, -1.0f, 1.0f);
+        kernel /= static_cast<float>(kw * kh);
+        cv::flip(kernel, mirrored, -1);
+    }
+    template <class T>
+    const T* in() const { return src.ptr<T>(); }
+    template <class T>
+    T* out() { return dst.ptr<T>(); }
+    int inStep() const { return static_cast<int>(src.step); }
+    int outStep() const { return static_cast<int>(dst.step); }
+    const float* taps() const { return kernel.ptr<float>(); }
+};
+
+template <class Zeli, class OpenCv>
+void registerPair(const std::string& group, int type, int kw, int kh, Zeli zeli, OpenCv opencv) {
+    for (int threads : {1, 2}) {
+        const std::string name = group + zel::bench::threadSuffix(threads);
+        registerSized(name, "zeli", [=](benchmark::State& state, ZeliSize s) {
+            Frame f(s, type, kw, kh);
+            zelSetNumThreads(threads);
+            for (auto _ : state) {
+                zeli(f, s);
+                benchmark::ClobberMemory();
+            }
+            zelSetNumThreads(1);
+        }, nullptr, kSizes);
+        registerSized(name, "opencv", [=](benchmark::State& state, ZeliSize s) {
+            Frame f(s, type, kw, kh);
+            cv::setNumThreads(threads);
+            for (auto _ : state) {
+                opencv(f);
+                benchmark::ClobberMemory();
+            }
+            cv::setNumThreads(1);
+        }, nullptr, kSizes);
+    }
+}
+
+void registerAll() {
+    for (int k : {3, 5, 11}) {
+        const std::string size = std::to_string(k) + "x" + std::to_string(k);
+        const ZeliPoint anchor{k / 2, k / 2};
+        registerPair("Filter32f_8u_C1_" + size, CV_8UC1, k, k, [=](Frame& f, ZeliSize s) {
+            zeliFilter32f_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, f.taps(), {k, k}, anchor);
+        }, [](Frame& f) { cv::filter2D(f.src, f.dst, CV_8U, f.mirrored); });
+        registerPair("Filter_32f_C1_" + size, CV_32FC1, k, k, [=](Frame& f, ZeliSize s) {
+            zeliFilter_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s, f.taps(), {k, k}, anchor);
+        }, [](Frame& f) { cv::filter2D(f.src, f.dst, CV_32F, f.mirrored); });
+    }
+    for (int k : {5, 11}) {
+        const cv::Mat one = cv::Mat::ones(1, 1, CV_32F);
+        registerPair("FilterRow_32f_C1_" + std::to_string(k), CV_32FC1, k, 1, [=](Frame& f, ZeliSize s) {
+            zeliFilterRow_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s, f.taps(), k, k / 2);
+        }, [one](Frame& f) { cv::sepFilter2D(f.src, f.dst, CV_32F, f.mirrored, one); });
+        registerPair("FilterColumn_32f_C1_" + std::to_string(k), CV_32FC1, 1, k, [=](Frame& f, ZeliSize s) {
+            zeliFilterColumn_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s, f.taps(), k,
+                                     k / 2);
+        }, [one](Frame& f) { cv::sepFilter2D(f.src, f.dst, CV_32F, one, f.mirrored); });
+    }
+}
+
+const zel::bench::Registration kRegistration(registerAll);
+
+}  // namespace
