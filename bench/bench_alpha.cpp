@@ -88,15 +88,18 @@ void registerAll() {
         registerRun("AlphaPremul_8u_AC4" + sfx, "zeli", make4, [](Images& o, ZeliSize s) {
             zeliAlphaPremul_8u_AC4R(o.a.data, o.step(), o.d.data, o.step(), s);
         }, threads, kSizes);
-        registerRun("CompColorKey_8u_C3" + sfx, "zeli", make3, [](Images& o, ZeliSize s) {
-            const Zel8u key[3] = {1, 2, 3};
-            zeliCompColorKey_8u_C3R(o.a.data, o.step(), o.b.data, o.step(), o.d.data, o.step(), s, key);
-        }, threads, kSizes);
-        registerRun("CompColorKey_8u_C3" + sfx, "opencv", make3, [](Images& o, ZeliSize) {
-            cv::inRange(o.a, cv::Scalar(1, 2, 3), cv::Scalar(1, 2, 3), o.mask);
-            o.a.copyTo(o.d);
-            o.b.copyTo(o.d, o.mask);
-        }, threads, kSizes);
+        zel::bench::registerPair(
+            "CompColorKey_8u_C3" + sfx, make3,
+            [](Images& o, ZeliSize s) {
+                const Zel8u key[3] = {1, 2, 3};
+                zeliCompColorKey_8u_C3R(o.a.data, o.step(), o.b.data, o.step(), o.d.data, o.step(), s, key);
+            },
+            [](Images& o) {
+                cv::inRange(o.a, cv::Scalar(1, 2, 3), cv::Scalar(1, 2, 3), o.mask);
+                o.a.copyTo(o.d);
+                o.b.copyTo(o.d, o.mask);
+            },
+            threads, kSizes);
     }
     registerRun("AlphaCompOver_8u_AC4", "scalar_O3", make4, [](Images& o, ZeliSize s) {
         (kAvx2 ? overAvx2 : overBase)(o.a.data, o.b.data, o.d.data, std::size_t(s.width) * s.height);
