@@ -71,6 +71,11 @@ LENIENT_MASKS = ('FilterSobelHorizMask', 'FilterSobelVertMask', 'FilterSobelHori
                  'FilterSobelVertSecond', 'FilterSobelCross')
 for fam in ('Abs', 'Sqr', 'Sqrt', 'Ln', 'Exp', 'Complement'):
     STEP_CHECKS[fam] = lambda t, lay: True
+# Minimum and maximum filters and morphology check their steps; the
+# morphology masks (pMask) are dense byte arrays without a step.
+MORPHOLOGY = ('Dilate', 'Erode', 'Dilate3x3', 'Erode3x3')
+for fam in ('FilterMin', 'FilterMax') + MORPHOLOGY:
+    STEP_CHECKS[fam] = lambda t, lay: True
 
 # The library frame: functions without image operands.
 FRAME = [
@@ -142,6 +147,10 @@ def image_entry(name, params):
     order = 0
     for ptype, pname, arr in params:
         base = pname
+        if base == 'pMask' and family in MORPHOLOGY:
+            args.append('c.morphMask()')
+            nulls.append('{"pMask", -5, -1}')
+            continue
         if base in STEP_OF:
             idx = len(ops)
             is_dst = base in ('pDst', 'pSrcDst')
@@ -220,6 +229,10 @@ def image_entry(name, params):
         elif pname == 'mask' and ptype == 'ZeliMaskCode':
             args.append('static_cast<ZeliMaskCode>(c.mask)')
             mask = 'MaskCheck::lenient' if family in LENIENT_MASKS and tsuf == '32f' else 'MaskCheck::strict'
+        elif pname == 'maskSize' and ptype == 'ZeliSize':
+            args.append('c.maskSize')
+        elif pname == 'anchor' and ptype == 'ZeliPoint':
+            args.append('c.anchor')
         elif pname == 'flags' and ptype == 'int':
             args.append('c.flags')
         elif pname in LIMIT_SLOTS and arr is not None:

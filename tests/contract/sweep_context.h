@@ -125,6 +125,11 @@ public:
     int cmpOp = 0;
     Zel32f eps = 1.f;
     bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
+    // Window filters and morphology: the window or mask size, its anchor,
+    // and the morphology mask's bytes (maskSize.width x maskSize.height).
+    ZeliSize maskSize{3, 3};
+    ZeliPoint anchor{1, 1};
+    std::array<Zel8u, 25> maskBytes{};
 
     void setup(const CallEntry& entry, const Geometry& g) {
         entry_ = &entry;
@@ -141,6 +146,10 @@ public:
         cmpOp = entry.opCheck == OpCheck::thresholdLast || entry.opCheck == OpCheck::thresholdFirst ? 4 : 1;
         eps = 1.f;
         crossThresholds = false;
+        maskSize = {3, 3};
+        anchor = {1, 1};
+        maskBytes.fill(0);
+        for (int k : {1, 3, 4, 5, 7}) maskBytes[k] = 1;  // a cross
         outByte_ = outBefore_ = 0xa5;
         nullOperand_ = nullPlane_ = -100;
         aliasSource_ = aliasTarget_ = -1;
@@ -202,6 +211,11 @@ public:
             cmpOp = rng() % 2 ? zelCompareLess : zelCompareGreater;
         else
             cmpOp = static_cast<int>(rng() % 5);
+        maskSize = {std::uniform_int_distribution<int>(1, 5)(rng), std::uniform_int_distribution<int>(1, 5)(rng)};
+        anchor = {std::uniform_int_distribution<int>(0, maskSize.width - 1)(rng),
+                  std::uniform_int_distribution<int>(0, maskSize.height - 1)(rng)};
+        for (auto& b : maskBytes) b = rng() % 3 == 0 ? 0 : static_cast<Zel8u>(rng());
+        maskBytes[rng() % (maskSize.width * maskSize.height)] = 1;  // never without a member
         static constexpr float kEps[] = {0.f, 0.125f, 1.f, 30.f, 1000.f, 1e30f};
         eps = kEps[rng() % std::size(kEps)];
         if (entry_->orderLength > 0) {
@@ -273,6 +287,7 @@ public:
         return limitElement<T>(slot, 0);
     }
     Zel8u* outByte() { return nullOperand_ == -4 ? nullptr : &outByte_; }
+    const Zel8u* morphMask() const { return nullOperand_ == -5 ? nullptr : maskBytes.data(); }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
     // Breaking one argument.
@@ -352,6 +367,8 @@ public:
         if (entry_->hasEps) s += " eps " + std::to_string(eps);
         if (crossThresholds) s += " (crossed thresholds)";
         if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
+        s += " maskSize " + std::to_string(maskSize.width) + "x" + std::to_string(maskSize.height) + " anchor " +
+             std::to_string(anchor.x) + "," + std::to_string(anchor.y);
         if (entry_->orderLength > 0) {
             s += " order";
             for (int k = 0; k < entry_->orderLength; ++k) s += " " + std::to_string(order_[k]);
