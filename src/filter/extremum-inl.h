@@ -220,31 +220,48 @@ void RectBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std
     }
 }
 
-// Any mask: the members, run by run, each one load per vector.
+// Any mask: for each destination row the addresses of its members' source
+// rows and columns are laid out run by run in scratch, and every vector
+// takes the extremum of one load per member, two vectors at a time.
 template <class T, bool IsMax, bool KeepAlpha>
 void RunsBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std::ptrdiff_t dstStep,
                std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n, int channels,
-               void* /*scratch*/, const filter::Window& window, std::ptrdiff_t /*firstRow*/) {
+               void* scratch, const filter::Window& window, std::ptrdiff_t /*firstRow*/) {
     using namespace extremum_detail;
     const std::ptrdiff_t C = channels;
     const T* src = static_cast<const T*>(srcBlock);
     T* dst = static_cast<T*>(dstBlock);
-    const filter::Run* runs = window.runs;
+    const T** at = static_cast<const T**>(scratch);
+    const hn::ScalableTag<T> d;
+    const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+    // Vectors stop short of an AC4 row's last alpha element, whose window
+    // reaches past the row's last colour element.
+    const std::ptrdiff_t vectorEnd = KeepAlpha && end == n ? end - 1 : end;
     for (std::ptrdiff_t y = 0; y < rows; ++y) {
-        auto extremum = [&](auto d, std::ptrdiff_t x) {
-            const T* first = rowAt(src, srcStep, y + runs[0].row) + x + runs[0].col * C;
-            auto v = hn::LoadU(d, first);
-            for (std::ptrdiff_t k = 1; k < runs[0].length; ++k) v = Ext<IsMax>(v, hn::LoadU(d, first + k * C));
-            for (int r = 1; r < window.runCount; ++r) {
-                const T* p = rowAt(src, srcStep, y + runs[r].row) + x + runs[r].col * C;
-                for (std::ptrdiff_t k = 0; k < runs[r].length; ++k) v = Ext<IsMax>(v, hn::LoadU(d, p + k * C));
-            }
+        std::ptrdiff_t members = 0;
+        for (int r = 0; r < window.runCount; ++r) {
+            const T* p = rowAt(src, srcStep, y + window.runs[r].row) + window.runs[r].col * C;
+            for (int k = 0; k < window.runs[r].length; ++k) at[members++] = p + k * C;
+        }
+        auto extremum = [&](auto dv, std::ptrdiff_t x) {
+            auto v = hn::LoadU(dv, at[0] + x);
+            for (std::ptrdiff_t k = 1; k < members; ++k) v = Ext<IsMax>(v, hn::LoadU(dv, at[k] + x));
             return v;
         };
-        // Vectors stop short of an AC4 row's last alpha element, whose
-        // window reaches past the row's last colour element.
         T* out = rowAt(dst, dstStep, y);
-        StoreRow<T, KeepAlpha>(out, begin, KeepAlpha && end == n ? end - 1 : end, end, extremum);
+        std::ptrdiff_t x = begin;
+        if constexpr (!KeepAlpha) {
+            for (; vectorEnd - x >= 2 * N; x += 2 * N) {
+                auto v0 = hn::LoadU(d, at[0] + x), v1 = hn::LoadU(d, at[0] + x + N);
+                for (std::ptrdiff_t k = 1; k < members; ++k) {
+                    v0 = Ext<IsMax>(v0, hn::LoadU(d, at[k] + x));
+                    v1 = Ext<IsMax>(v1, hn::LoadU(d, at[k] + x + N));
+                }
+                hn::StoreU(v0, d, out + x);
+                hn::StoreU(v1, d, out + x + N);
+            }
+        }
+        StoreRow<T, KeepAlpha>(out, x, vectorEnd, end, extremum);
     }
 }
 

@@ -92,8 +92,11 @@ ZelStatus elementOf(const Zel8u* mask, ZeliSize size, Element& e) {
 template <class T, Layout L, bool IsMax>
 WindowPlan planOf(const Element& e) {
     if (e.rectangle) return planRect(rectKernel<T, IsMax, L == Layout::AC4>(), e.width, e.height, kChannels<L>, sizeof(T));
+    // Scratch: the address of every member.
+    std::ptrdiff_t members = 0;
+    for (int r = 0; r < e.runCount; ++r) members += e.runs[r].length;
     return WindowPlan{runsKernel<T, IsMax, L == Layout::AC4>(), Window{e.width, e.height, 0, e.runs.get(), e.runCount},
-                      0};
+                      (members * std::ptrdiff_t(sizeof(void*)) + std::ptrdiff_t(sizeof(T)) - 1) / std::ptrdiff_t(sizeof(T))};
 }
 
 // The checks of the mask, its members and the anchor, in this order.
