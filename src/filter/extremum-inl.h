@@ -86,8 +86,8 @@ HWY_INLINE void StoreRow(T* out, std::ptrdiff_t x0, std::ptrdiff_t vectorEnd, st
 }  // namespace extremum_detail
 
 // Rectangle of window.width x window.height pixels. Scratch: the column
-// values (chunk + reach elements), and for high windows a prefix row and two
-// segments of suffix rows.
+// values (chunk + reach elements) and, for low windows, a second row of
+// them, for high windows a prefix row and two segments of suffix rows.
 template <class T, bool IsMax, bool KeepAlpha>
 void RectBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std::ptrdiff_t dstStep,
                std::ptrdiff_t rows, std::ptrdiff_t begin, std::ptrdiff_t end, std::ptrdiff_t n, int channels,
@@ -114,9 +114,9 @@ void RectBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std
         auto in = [&](std::ptrdiff_t r) { return rowAt(src, srcStep, r) + x0; };
 
         // The row pass from the column values to destination row y.
-        auto rowPass = [&](std::ptrdiff_t y) {
+        auto rowPass = [&](std::ptrdiff_t y, T* values) {
             T* out = rowAt(dst, dstStep, y);
-            const T* m = column - x0;
+            const T* m = values - x0;
             if (W <= filter::kDirectColumns) {
                 StoreRow<T, KeepAlpha>(out, x0, x1, x1, [&](auto d, std::ptrdiff_t x) {
                     auto v = hn::LoadU(d, m + x);
@@ -126,14 +126,14 @@ void RectBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std
                 return;
             }
             // Spans of 2, 4, ... pixels in place: after the level of span s,
-            // column[i] is the extremum of s pixels from i on.
+            // values[i] is the extremum of s pixels from i on.
             std::ptrdiff_t span = 1, valid = full;
             for (; 2 * span <= W; span *= 2) {
                 valid -= span * C;
                 const std::ptrdiff_t shift = span * C;
                 ForLanes<T>(valid, [&](auto d, std::ptrdiff_t i) {
-                    hn::StoreU(Ext<IsMax>(hn::LoadU(d, column + i), hn::LoadU(d, column + i + shift)), d,
-                               column + i);
+                    hn::StoreU(Ext<IsMax>(hn::LoadU(d, values + i), hn::LoadU(d, values + i + shift)), d,
+                               values + i);
                 });
             }
             const std::ptrdiff_t last = (W - span) * C;
@@ -143,15 +143,47 @@ void RectBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std
         };
 
         if (H <= filter::kDirectRows) {
-            for (std::ptrdiff_t y = 0; y < rows; ++y) {
-                const T* r[filter::kDirectRows];
+            // Rows in pairs from even rows of the ROI: both windows share
+            // rows y + 1 .. y + H - 1, whose extremum S is taken once; the
+            // even row is ext(row y, S), the odd one ext(S, row y + H). A row
+            // without its partner takes the same order, so every value is
+            // combined alike whichever band computes it.
+            T* second = prefix;
+            for (std::ptrdiff_t y = 0; y < rows;) {
+                const T* r[filter::kDirectRows + 1];
+                const bool even = (firstRow + y) % 2 == 0;
+                if (H >= 2 && even && rows - y >= 2) {
+                    for (std::ptrdiff_t k = 0; k <= H; ++k) r[k] = in(y + k);
+                    ForLanes<T>(count, [&](auto d, std::ptrdiff_t i) {
+                        auto shared = hn::LoadU(d, r[1] + i);
+                        for (std::ptrdiff_t k = 2; k < H; ++k) shared = Ext<IsMax>(shared, hn::LoadU(d, r[k] + i));
+                        hn::StoreU(Ext<IsMax>(hn::LoadU(d, r[0] + i), shared), d, column + i);
+                        hn::StoreU(Ext<IsMax>(shared, hn::LoadU(d, r[H] + i)), d, second + i);
+                    });
+                    if (count < full) second[count] = T(0);
+                    rowPass(y, column);
+                    rowPass(y + 1, second);
+                    y += 2;
+                    continue;
+                }
                 for (std::ptrdiff_t k = 0; k < H; ++k) r[k] = in(y + k);
                 ForLanes<T>(count, [&](auto d, std::ptrdiff_t i) {
-                    auto v = hn::LoadU(d, r[0] + i);
-                    for (std::ptrdiff_t k = 1; k < H; ++k) v = Ext<IsMax>(v, hn::LoadU(d, r[k] + i));
+                    hn::VFromD<decltype(d)> v;
+                    if (H == 1) {
+                        v = hn::LoadU(d, r[0] + i);
+                    } else if (even) {
+                        auto shared = hn::LoadU(d, r[1] + i);
+                        for (std::ptrdiff_t k = 2; k < H; ++k) shared = Ext<IsMax>(shared, hn::LoadU(d, r[k] + i));
+                        v = Ext<IsMax>(hn::LoadU(d, r[0] + i), shared);
+                    } else {
+                        auto shared = hn::LoadU(d, r[0] + i);
+                        for (std::ptrdiff_t k = 1; k < H - 1; ++k) shared = Ext<IsMax>(shared, hn::LoadU(d, r[k] + i));
+                        v = Ext<IsMax>(shared, hn::LoadU(d, r[H - 1] + i));
+                    }
                     hn::StoreU(v, d, column + i);
                 });
-                rowPass(y);
+                rowPass(y, column);
+                ++y;
             }
             continue;
         }
@@ -214,7 +246,7 @@ void RectBlock(const void* srcBlock, std::ptrdiff_t srcStep, void* dstBlock, std
                         hn::StoreU(Ext<IsMax>(hn::LoadU(d, prefix + i), hn::LoadU(d, row + i)), d, prefix + i);
                     });
                 }
-                if (emits) rowPass(y);
+                if (emits) rowPass(y, column);
             }
         }
     }

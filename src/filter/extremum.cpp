@@ -54,9 +54,10 @@ Zel8u maskMaximum(const Zel8u* mask, std::ptrdiff_t count) {
 
 WindowPlan planRect(WindowKernel kernel, int width, int height, int channels, int elementBytes) {
     const std::ptrdiff_t reach = std::ptrdiff_t{width - 1} * channels;
-    // Scratch rows: the column values, and for high windows a prefix row
-    // and two segments of suffixes; about 96 KiB of them.
-    const std::ptrdiff_t rows = height <= kDirectRows ? 1 : 2 * std::ptrdiff_t{height} + 2;
+    // Scratch rows: two of column values for low windows, and for high
+    // ones a row of column values, a prefix row and two segments of
+    // suffixes; about 96 KiB of them.
+    const std::ptrdiff_t rows = height <= kDirectRows ? 2 : 2 * std::ptrdiff_t{height} + 2;
     const std::ptrdiff_t budget = (std::ptrdiff_t{96} << 10) / elementBytes / rows;
     const std::ptrdiff_t chunk = std::max<std::ptrdiff_t>(256, (budget - reach) / 64 * 64);
     return WindowPlan{kernel, Window{width, height, chunk, nullptr, 0}, rows * (chunk + reach)};

@@ -121,10 +121,14 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
     if (isMorphology(e)) {
         if (std::string(e.family).find("3x3") == std::string::npos)
             list.push_back({"mask without a member", zelStatusZeroMask, [](SweepContext& c) { c.maskBytes.fill(0); }});
+        // One byte short of the ROI row and the element's reach.
         const int op = e.steps[0];
         const int pixel = e.ops[op].elemBytes * e.ops[op].channels;
-        list.push_back({"step one ROI row", zelStatusStepTooSmall,
-                        [op, pixel](SweepContext& c) { c.setStep(op, c.roi.width * pixel); }});
+        const bool square = !takesWindow(e);
+        list.push_back({"step one byte short", zelStatusStepTooSmall, [op, pixel, square](SweepContext& c) {
+                            const int width = square ? 3 : c.maskSize.width;
+                            c.setStep(op, (c.roi.width + width - 1) * pixel - 1);
+                        }});
     }
     if (e.hasRndMode)
         for (int mode : {3, -1, 1000})
