@@ -3,7 +3,6 @@
 // bandwidth bound of a pixelwise operation).
 #include <opencv2/core.hpp>
 
-#include <cstring>
 #include <vector>
 
 #include "bench_util.h"
@@ -11,7 +10,6 @@
 namespace {
 
 using zel::bench::registerMemcpy;
-using zel::bench::registerSized;
 
 // Source, second source and destination images of one benchmark.
 template <class T>
@@ -29,24 +27,7 @@ struct Operands {
 
 template <class T, class Zeli, class OpenCv>
 void registerPair(const std::string& group, int cvType, Zeli zeli, OpenCv opencv, int threads = 1) {
-    registerSized(group, "zeli", [=](benchmark::State& state, ZeliSize s) {
-        Operands<T> o(s, cvType);
-        zelSetNumThreads(threads);
-        for (auto _ : state) {
-            zeli(o, s);
-            benchmark::ClobberMemory();
-        }
-        zelSetNumThreads(1);
-    });
-    registerSized(group, "opencv", [=](benchmark::State& state, ZeliSize s) {
-        Operands<T> o(s, cvType);
-        cv::setNumThreads(threads);
-        for (auto _ : state) {
-            opencv(o);
-            benchmark::ClobberMemory();
-        }
-        cv::setNumThreads(1);
-    });
+    zel::bench::registerPair(group, [cvType](ZeliSize s) { return Operands<T>(s, cvType); }, zeli, opencv, threads);
 }
 
 void registerAll() {

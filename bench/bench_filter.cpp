@@ -11,8 +11,6 @@
 
 namespace {
 
-using zel::bench::registerSized;
-
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 
 // A bordered source, its ROI and a destination.
@@ -31,38 +29,18 @@ struct Frame {
     int outStep() const { return static_cast<int>(dst.step); }
 };
 
-template <class OpenCv>
-void registerOpenCv(const std::string& name, const std::string& impl, int threads, int srcType, int dstType,
-                    OpenCv opencv) {
-    registerSized(name, impl, [=](benchmark::State& state, ZeliSize s) {
-        Frame f(s, srcType, dstType);
-        cv::setNumThreads(threads);
-        for (auto _ : state) {
-            opencv(f);
-            benchmark::ClobberMemory();
-        }
-        cv::setNumThreads(1);
-    }, nullptr, kSizes);
-}
-
 // `sameKernel`, when given, is OpenCV's evaluation of exactly our kernel
 // where its own filter of the kind uses another one.
 template <class Zeli, class OpenCv>
 void registerPair(const std::string& group, int srcType, int dstType, Zeli zeli, OpenCv opencv,
                   std::function<void(Frame&)> sameKernel = nullptr) {
+    const auto make = [=](ZeliSize s) { return Frame(s, srcType, dstType); };
     for (int threads : {1, 2}) {
-        const std::string name = group + (threads > 1 ? "_mt" : "");
-        registerSized(name, "zeli", [=](benchmark::State& state, ZeliSize s) {
-            Frame f(s, srcType, dstType);
-            zelSetNumThreads(threads);
-            for (auto _ : state) {
-                zeli(f, s);
-                benchmark::ClobberMemory();
-            }
-            zelSetNumThreads(1);
-        }, nullptr, kSizes);
-        registerOpenCv(name, "opencv", threads, srcType, dstType, opencv);
-        if (sameKernel) registerOpenCv(name, "opencv_filter2D", threads, srcType, dstType, sameKernel);
+        const std::string name = group + zel::bench::threadSuffix(threads);
+        zel::bench::registerPair(name, make, zeli, opencv, threads, kSizes);
+        if (sameKernel)
+            zel::bench::registerRun(name, "opencv_filter2D", make,
+                                    [sameKernel](Frame& f, ZeliSize) { sameKernel(f); }, threads, kSizes);
     }
 }
 

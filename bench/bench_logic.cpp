@@ -4,7 +4,6 @@
 // shifts are compared with the memcpy bound only.
 #include <opencv2/core.hpp>
 
-#include <cstring>
 #include <vector>
 
 #include "bench_util.h"
@@ -12,7 +11,6 @@
 namespace {
 
 using zel::bench::registerMemcpy;
-using zel::bench::registerSized;
 
 struct Images {
     cv::Mat a, b, d;
@@ -32,15 +30,7 @@ struct Images {
 
 template <class F>
 void registerOne(const std::string& group, const std::string& impl, int cvType, F f) {
-    registerSized(group, impl, [=](benchmark::State& state, ZeliSize s) {
-        Images o(s, cvType);
-        zelSetNumThreads(1);
-        cv::setNumThreads(1);
-        for (auto _ : state) {
-            f(o, s);
-            benchmark::ClobberMemory();
-        }
-    });
+    zel::bench::registerRun(group, impl, [cvType](ZeliSize s) { return Images(s, cvType); }, f);
 }
 
 void registerAll() {

@@ -8,7 +8,6 @@
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -16,7 +15,6 @@
 
 namespace {
 
-using zel::bench::registerSized;
 
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 
@@ -41,36 +39,12 @@ struct Operands {
 
 template <class Zeli, class OpenCv>
 void registerPair(const std::string& group, int cvType, Zeli zeli, OpenCv opencv, int threads = 1) {
-    registerSized(group, "zeli", [=](benchmark::State& state, ZeliSize s) {
-        Operands o(s, cvType);
-        zelSetNumThreads(threads);
-        for (auto _ : state) {
-            zeli(o, s);
-            benchmark::ClobberMemory();
-        }
-        zelSetNumThreads(1);
-    }, nullptr, kSizes);
-    registerSized(group, "opencv", [=](benchmark::State& state, ZeliSize s) {
-        Operands o(s, cvType);
-        cv::setNumThreads(threads);
-        for (auto _ : state) {
-            opencv(o);
-            benchmark::ClobberMemory();
-        }
-        cv::setNumThreads(1);
-    }, nullptr, kSizes);
+    zel::bench::registerPair(group, [cvType](ZeliSize s) { return Operands(s, cvType); }, zeli, opencv, threads,
+                             kSizes);
 }
 
-// memcpy of as many bytes as the operation reads and writes, halved.
 void registerMemcpy(const std::string& group, double bytesPerPixel) {
-    registerSized(group, "memcpy", [bytesPerPixel](benchmark::State& state, ZeliSize s) {
-        const std::size_t bytes = std::size_t(bytesPerPixel / 2 * s.width * s.height);
-        std::vector<char> src(bytes, 1), dst(bytes);
-        for (auto _ : state) {
-            std::memcpy(dst.data(), src.data(), bytes);
-            benchmark::ClobberMemory();
-        }
-    }, nullptr, kSizes);
+    zel::bench::registerMemcpy(group, bytesPerPixel, kSizes);
 }
 
 void registerAll() {

@@ -3,14 +3,13 @@
 // and two, and against the memcpy bound for Abs and Sqr.
 #include <opencv2/core.hpp>
 
-#include <cstring>
 #include <vector>
 
 #include "bench_util.h"
 
 namespace {
 
-using zel::bench::registerSized;
+using zel::bench::threadSuffix;
 
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 
@@ -29,39 +28,14 @@ struct Images {
 
 template <class Zeli, class OpenCv>
 void registerPair(const std::string& group, int cvType, double lo, double hi, Zeli zeli, OpenCv opencv) {
-    for (int threads : {1, 2}) {
-        const std::string name = group + (threads > 1 ? "_mt" : "");
-        registerSized(name, "zeli", [=](benchmark::State& state, ZeliSize s) {
-            Images o(s, cvType, lo, hi);
-            zelSetNumThreads(threads);
-            for (auto _ : state) {
-                zeli(o, s);
-                benchmark::ClobberMemory();
-            }
-            zelSetNumThreads(1);
-        }, nullptr, kSizes);
-        registerSized(name, "opencv", [=](benchmark::State& state, ZeliSize s) {
-            Images o(s, cvType, lo, hi);
-            cv::setNumThreads(threads);
-            for (auto _ : state) {
-                opencv(o);
-                benchmark::ClobberMemory();
-            }
-            cv::setNumThreads(1);
-        }, nullptr, kSizes);
-    }
+    const auto make = [=](ZeliSize s) { return Images(s, cvType, lo, hi); };
+    for (int threads : {1, 2})
+        zel::bench::registerPair(group + threadSuffix(threads), make, zeli, opencv, threads, kSizes);
 }
 
 // memcpy of as many bytes as the operation reads (and writes).
 void registerMemcpy(const std::string& group, int bytesPerPixel) {
-    registerSized(group, "memcpy", [bytesPerPixel](benchmark::State& state, ZeliSize s) {
-        const std::size_t bytes = std::size_t(bytesPerPixel) * s.width * s.height;
-        std::vector<char> src(bytes, 1), dst(bytes);
-        for (auto _ : state) {
-            std::memcpy(dst.data(), src.data(), bytes);
-            benchmark::ClobberMemory();
-        }
-    }, nullptr, kSizes);
+    zel::bench::registerMemcpy(group, 2.0 * bytesPerPixel, kSizes);
 }
 
 void registerAll() {

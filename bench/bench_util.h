@@ -67,6 +67,15 @@ void registerRun(const std::string& group, const std::string& impl, Make make, R
     }, nullptr, sizes);
 }
 
+// Our function and OpenCV's equivalent on the same fixture, both with
+// `threads` threads: `zeli(fixture, size)` against `opencv(fixture)`.
+template <class Make, class Zeli, class OpenCv>
+void registerPair(const std::string& group, Make make, Zeli zeli, OpenCv opencv, int threads = 1,
+                  const std::vector<ZeliSize>& sizes = standardSizes()) {
+    registerRun(group, "zeli", make, zeli, threads, sizes);
+    registerRun(group, "opencv", make, [opencv](auto& fixture, ZeliSize) { opencv(fixture); }, threads, sizes);
+}
+
 // A memcpy moving as many bytes as an operation that reads and writes
 // `bytesPerPixel` bytes per pixel in all (half of them copied, half written):
 // the bandwidth bound of a pixelwise operation, reported beside it.

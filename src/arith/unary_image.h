@@ -8,6 +8,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cmath>
 #include <cstddef>
@@ -195,9 +196,12 @@ ZelStatus unaryImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize ro
     return run();
 }
 
-// A row through a 256-entry table of 8-bit results; with `zeroCode` the
-// row reports it when it meets a zero.
-inline auto tableRow(const Zel8u* table, int zeroCode) {
+// An 8-bit row through a 256-entry table of rule(x) for every x; with
+// `zeroCode` the row reports it when it meets a zero.
+template <class Rule>
+auto tableRow(Rule rule, int zeroCode) {
+    std::array<Zel8u, 256> table;
+    for (int x = 0; x < 256; ++x) table[x] = rule(Zel8u(x));
     return [table, zeroCode](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, bool ac4) {
         bool zero = false;
         for (std::ptrdiff_t i = 0; i < n; ++i) {

@@ -10,7 +10,6 @@
 
 #if HWY_ONCE
 
-#include <array>
 #include <type_traits>
 
 #include "arith/members.h"
@@ -34,12 +33,8 @@ ZelStatus lnImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, 
     } else if constexpr (std::is_same_v<T, Zel8u>) {
         static constexpr UnaryPlan kPlan{false, Gather::FirstNonZero, true, 0, true};
         return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale] {
-            std::array<Zel8u, 256> table;
-            int code = 0;
-            for (int x = 0; x < 256; ++x) table[x] = lnScaled<Zel8u>(Zel8u(x), scale, code);
-            return [table](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, bool ac4) {
-                return tableRow(table.data(), zelStatusWarnLogOfZero)(s, d, n, ac4);
-            };
+            return tableRow([scale](Zel8u x) { int code = 0; return lnScaled<Zel8u>(x, scale, code); },
+                            zelStatusWarnLogOfZero);
         });
     } else {
         static constexpr UnaryPlan kPlan{false, Gather::FirstNonZero, std::is_unsigned_v<T>, 0, true};
@@ -62,11 +57,7 @@ ZelStatus expImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi,
     } else if constexpr (std::is_same_v<T, Zel8u>) {
         static constexpr UnaryPlan kPlan{false, Gather::Ignore, true, 0, true};
         return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale] {
-            std::array<Zel8u, 256> table;
-            for (int x = 0; x < 256; ++x) table[x] = expScaled8u(Zel8u(x), scale);
-            return [table](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, bool ac4) {
-                return tableRow(table.data(), 0)(s, d, n, ac4);
-            };
+            return tableRow([scale](Zel8u x) { return expScaled8u(x, scale); }, 0);
         });
     } else {
         static constexpr UnaryPlan kPlan{false, Gather::Last, true, 0, true};

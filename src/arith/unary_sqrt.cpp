@@ -11,7 +11,6 @@
 
 #if HWY_ONCE
 
-#include <array>
 #include <type_traits>
 
 #include "arith/members.h"
@@ -36,12 +35,7 @@ ZelStatus sqrtImage(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi
     } else if constexpr (std::is_same_v<T, Zel8u>) {
         static constexpr UnaryPlan kPlan{false, Gather::Ignore, true, 2048, true};
         return unaryImage<T, L>(src, srcStep, dst, dstStep, roi, kPlan, [scale] {
-            std::array<Zel8u, 256> table;
-            int code = 0;
-            for (int x = 0; x < 256; ++x) table[x] = sqrtScaled<Zel8u>(Zel8u(x), scale, code);
-            return [table](const Zel8u* s, Zel8u* d, std::ptrdiff_t n, bool ac4) {
-                return tableRow(table.data(), 0)(s, d, n, ac4);
-            };
+            return tableRow([scale](Zel8u x) { int code = 0; return sqrtScaled<Zel8u>(x, scale, code); }, 0);
         });
     } else {
         static constexpr UnaryPlan kPlan{false, Gather::Ignore, true, 0, true};
