@@ -11,7 +11,6 @@
 
 namespace {
 
-using zel::bench::registerRun;
 using zel::bench::threadSuffix;
 
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
@@ -33,12 +32,11 @@ struct Frame {
 
 // Our call and OpenCV's on the same frame, for one and two threads.
 template <class Zeli, class OpenCv>
-void registerPair(const std::string& group, int type, int border, Zeli zeli, OpenCv opencv) {
-    for (int threads : {1, 2}) {
-        auto make = [type, border](ZeliSize s) { return Frame(s, type, border); };
-        registerRun(group + threadSuffix(threads), "zeli", make, zeli, threads, kSizes);
-        registerRun(group + threadSuffix(threads), "opencv", make, opencv, threads, kSizes);
-    }
+void registerBoth(const std::string& group, int type, int border, Zeli zeli, OpenCv opencv) {
+    for (int threads : {1, 2})
+        zel::bench::registerPair(group + threadSuffix(threads),
+                                 [type, border](ZeliSize s) { return Frame(s, type, border); }, zeli, opencv,
+                                 threads, kSizes);
 }
 
 // A square element of side k, every byte a member.
@@ -54,43 +52,43 @@ void registerAll() {
     for (int k : {3, 15}) {
         const std::string side = std::to_string(k) + "x" + std::to_string(k);
         const cv::Mat rect = cv::getStructuringElement(cv::MORPH_RECT, cv::Size(k, k));
-        registerPair("FilterMin_8u_C1_" + side, CV_8UC1, k / 2, [k](Frame& f, ZeliSize s) {
+        registerBoth("FilterMin_8u_C1_" + side, CV_8UC1, k / 2, [k](Frame& f, ZeliSize s) {
             zeliFilterMin_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, {k, k}, {k / 2, k / 2});
-        }, [rect](Frame& f, ZeliSize) { cv::erode(f.src, f.dst, rect); });
-        registerPair("FilterMax_8u_C1_" + side, CV_8UC1, k / 2, [k](Frame& f, ZeliSize s) {
+        }, [rect](Frame& f) { cv::erode(f.src, f.dst, rect); });
+        registerBoth("FilterMax_8u_C1_" + side, CV_8UC1, k / 2, [k](Frame& f, ZeliSize s) {
             zeliFilterMax_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, {k, k}, {k / 2, k / 2});
-        }, [rect](Frame& f, ZeliSize) { cv::dilate(f.src, f.dst, rect); });
+        }, [rect](Frame& f) { cv::dilate(f.src, f.dst, rect); });
     }
     const cv::Mat rect3 = cv::getStructuringElement(cv::MORPH_RECT, cv::Size(3, 3));
-    registerPair("Dilate3x3_8u_C1", CV_8UC1, 1, [](Frame& f, ZeliSize s) {
+    registerBoth("Dilate3x3_8u_C1", CV_8UC1, 1, [](Frame& f, ZeliSize s) {
         zeliDilate3x3_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s);
-    }, [rect3](Frame& f, ZeliSize) { cv::dilate(f.src, f.dst, rect3); });
-    registerPair("Erode3x3_8u_C1", CV_8UC1, 1, [](Frame& f, ZeliSize s) {
+    }, [rect3](Frame& f) { cv::dilate(f.src, f.dst, rect3); });
+    registerBoth("Erode3x3_8u_C1", CV_8UC1, 1, [](Frame& f, ZeliSize s) {
         zeliErode3x3_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s);
-    }, [rect3](Frame& f, ZeliSize) { cv::erode(f.src, f.dst, rect3); });
-    registerPair("Dilate3x3_8u_C3", CV_8UC3, 1, [](Frame& f, ZeliSize s) {
+    }, [rect3](Frame& f) { cv::erode(f.src, f.dst, rect3); });
+    registerBoth("Dilate3x3_8u_C3", CV_8UC3, 1, [](Frame& f, ZeliSize s) {
         zeliDilate3x3_8u_C3R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s);
-    }, [rect3](Frame& f, ZeliSize) { cv::dilate(f.src, f.dst, rect3); });
-    registerPair("Erode3x3_8u_C3", CV_8UC3, 1, [](Frame& f, ZeliSize s) {
+    }, [rect3](Frame& f) { cv::dilate(f.src, f.dst, rect3); });
+    registerBoth("Erode3x3_8u_C3", CV_8UC3, 1, [](Frame& f, ZeliSize s) {
         zeliErode3x3_8u_C3R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s);
-    }, [rect3](Frame& f, ZeliSize) { cv::erode(f.src, f.dst, rect3); });
-    registerPair("Dilate3x3_32f_C1", CV_32FC1, 1, [](Frame& f, ZeliSize s) {
+    }, [rect3](Frame& f) { cv::erode(f.src, f.dst, rect3); });
+    registerBoth("Dilate3x3_32f_C1", CV_32FC1, 1, [](Frame& f, ZeliSize s) {
         zeliDilate3x3_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s);
-    }, [rect3](Frame& f, ZeliSize) { cv::dilate(f.src, f.dst, rect3); });
-    registerPair("Erode3x3_32f_C1", CV_32FC1, 1, [](Frame& f, ZeliSize s) {
+    }, [rect3](Frame& f) { cv::dilate(f.src, f.dst, rect3); });
+    registerBoth("Erode3x3_32f_C1", CV_32FC1, 1, [](Frame& f, ZeliSize s) {
         zeliErode3x3_32f_C1R(f.in<Zel32f>(), f.inStep(), f.out<Zel32f>(), f.outStep(), s);
-    }, [rect3](Frame& f, ZeliSize) { cv::erode(f.src, f.dst, rect3); });
+    }, [rect3](Frame& f) { cv::erode(f.src, f.dst, rect3); });
 
     static const std::vector<Zel8u> square15 = square(15), cross7 = cross(7);
     const cv::Mat rect15 = cv::getStructuringElement(cv::MORPH_RECT, cv::Size(15, 15));
     const cv::Mat cvCross7 = cv::getStructuringElement(cv::MORPH_CROSS, cv::Size(7, 7));
-    registerPair("Dilate_8u_C1_15x15", CV_8UC1, 7, [](Frame& f, ZeliSize s) {
+    registerBoth("Dilate_8u_C1_15x15", CV_8UC1, 7, [](Frame& f, ZeliSize s) {
         zeliDilate_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, square15.data(), {15, 15},
                           {7, 7});
-    }, [rect15](Frame& f, ZeliSize) { cv::dilate(f.src, f.dst, rect15); });
-    registerPair("Dilate_8u_C1_cross7x7", CV_8UC1, 3, [](Frame& f, ZeliSize s) {
+    }, [rect15](Frame& f) { cv::dilate(f.src, f.dst, rect15); });
+    registerBoth("Dilate_8u_C1_cross7x7", CV_8UC1, 3, [](Frame& f, ZeliSize s) {
         zeliDilate_8u_C1R(f.in<Zel8u>(), f.inStep(), f.out<Zel8u>(), f.outStep(), s, cross7.data(), {7, 7}, {3, 3});
-    }, [cvCross7](Frame& f, ZeliSize) { cv::dilate(f.src, f.dst, cvCross7); });
+    }, [cvCross7](Frame& f) { cv::dilate(f.src, f.dst, cvCross7); });
 }
 
 const zel::bench::Registration registration(registerAll);
