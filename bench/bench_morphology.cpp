@@ -15,19 +15,8 @@ using zel::bench::threadSuffix;
 
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 
-struct Frame {
-    cv::Mat bordered, src, dst;
-    Frame(ZeliSize s, int type, int border)
-        : bordered(s.height + 2 * border, s.width + 2 * border, type), dst(s.height, s.width, type) {
-        cv::randu(bordered, 0, 255);
-        src = bordered(cv::Rect(border, border, s.width, s.height));
-    }
-    template <class T>
-    const T* in() const { return src.ptr<T>(); }
-    template <class T>
-    T* out() { return dst.ptr<T>(); }
-    int inStep() const { return static_cast<int>(src.step); }
-    int outStep() const { return static_cast<int>(dst.step); }
+struct Frame : zel::bench::BorderedFrame {
+    Frame(ZeliSize s, int type, int border) : BorderedFrame(s, type, type, border) {}
 };
 
 // Our call and OpenCV's on the same frame, for one and two threads.

@@ -99,27 +99,27 @@ WindowPlan planOf(const Element& e) {
                       (members * std::ptrdiff_t(sizeof(void*)) + std::ptrdiff_t(sizeof(T)) - 1) / std::ptrdiff_t(sizeof(T))};
 }
 
-// The checks of the mask, its members and the anchor, in this order.
-inline Check& checkMask(Check& check, const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor) {
-    check.that(maskSize.width >= 1 && maskSize.height >= 1, zelStatusBadMaskSize);
+// The checks after the pointers (steps, size, the mask's size, members and
+// anchor, the steps against the rows), then the element of the mask.
+template <class T, Layout L>
+ZelStatus prepare(Check check, int srcStep, int dstStep, ZeliSize roi, const Zel8u* pMask, ZeliSize maskSize,
+                  ZeliPoint anchor, Element& e) {
+    check.steps(srcStep, dstStep).roi(roi).that(maskSize.width >= 1 && maskSize.height >= 1, zelStatusBadMaskSize);
     if (check.failed()) return check;
-    return check
-        .that(maskMaximum(pMask, std::ptrdiff_t{maskSize.width} * maskSize.height) != 0, zelStatusZeroMask)
+    check.that(maskMaximum(pMask, std::ptrdiff_t{maskSize.width} * maskSize.height) != 0, zelStatusZeroMask)
         .that(anchor.x >= 0 && anchor.x < maskSize.width && anchor.y >= 0 && anchor.y < maskSize.height,
-              zelStatusBadAnchor);
+              zelStatusBadAnchor)
+        .that(stepsHold<T, L>(srcStep, dstStep, roi, maskSize.width), zelStatusStepTooSmall);
+    if (check.failed()) return check;
+    return elementOf(pMask, maskSize, e);
 }
 
 template <class T, Layout L, bool IsMax>
 ZelStatus morph(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize roi, const Zel8u* pMask,
                 ZeliSize maskSize, ZeliPoint anchor) {
-    Check check;
-    check.ptrs(pSrc, pDst, pMask).steps(srcStep, dstStep).roi(roi);
-    if (!check.failed()) checkMask(check, pMask, maskSize, anchor);
-    if (ZelStatus st = check.that(check.failed() || stepsHold<T, L>(srcStep, dstStep, roi, maskSize.width),
-                                  zelStatusStepTooSmall))
-        return st;
     Element e;
-    if (ZelStatus st = elementOf(pMask, maskSize, e)) return st;
+    if (ZelStatus st = prepare<T, L>(Check().ptrs(pSrc, pDst, pMask), srcStep, dstStep, roi, pMask, maskSize, anchor, e))
+        return st;
     const T* origin = rowAt(pSrc, srcStep, std::ptrdiff_t{e.top} - anchor.y) +
                       (std::ptrdiff_t{e.left} - anchor.x) * kChannels<L>;
     return runWindow<T, L>(planOf<T, L, IsMax>(e), origin, srcStep, pDst, dstStep, roi, true);
@@ -128,14 +128,10 @@ ZelStatus morph(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize roi, 
 template <class T, Layout L, bool IsMax>
 ZelStatus morphInPlace(T* pSrcDst, int srcDstStep, ZeliSize roi, const Zel8u* pMask, ZeliSize maskSize,
                        ZeliPoint anchor) {
-    Check check;
-    check.ptrs(pSrcDst, pMask).steps(srcDstStep).roi(roi);
-    if (!check.failed()) checkMask(check, pMask, maskSize, anchor);
-    if (ZelStatus st = check.that(check.failed() || stepsHold<T, L>(srcDstStep, srcDstStep, roi, maskSize.width),
-                                  zelStatusStepTooSmall))
-        return st;
     Element e;
-    if (ZelStatus st = elementOf(pMask, maskSize, e)) return st;
+    if (ZelStatus st = prepare<T, L>(Check().ptrs(pSrcDst, pMask), srcDstStep, srcDstStep, roi, pMask, maskSize,
+                                     anchor, e))
+        return st;
     return runWindowInPlace<T, L>(planOf<T, L, IsMax>(e), pSrcDst, srcDstStep, roi, anchor.y - e.top,
                                   anchor.x - e.left);
 }
