@@ -13,20 +13,9 @@ namespace {
 
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 
-// A bordered source, its ROI and a destination.
-struct Frame {
-    cv::Mat bordered, src, dst;
-    Frame(ZeliSize s, int srcType, int dstType)
-        : bordered(s.height + 4, s.width + 4, srcType), dst(s.height, s.width, dstType) {
-        cv::randu(bordered, 0, 255);
-        src = bordered(cv::Rect(2, 2, s.width, s.height));
-    }
-    template <class T>
-    const T* in() const { return src.ptr<T>(); }
-    template <class T>
-    T* out() { return dst.ptr<T>(); }
-    int inStep() const { return static_cast<int>(src.step); }
-    int outStep() const { return static_cast<int>(dst.step); }
+// A source with a 2-pixel border, its ROI and a destination.
+struct Frame : zel::bench::BorderedFrame {
+    Frame(ZeliSize s, int srcType, int dstType) : BorderedFrame(s, srcType, dstType, 2) {}
 };
 
 // `sameKernel`, when given, is OpenCV's evaluation of exactly our kernel

@@ -76,6 +76,25 @@ void registerPair(const std::string& group, Make make, Zeli zeli, OpenCv opencv,
     registerRun(group, "opencv", make, [opencv](auto& fixture, ZeliSize) { opencv(fixture); }, threads, sizes);
 }
 
+// A random source with `border` pixels on every side, its ROI and a
+// destination of the ROI's size: the neighbourhood filters read real
+// neighbours around our ROI, and OpenCV, working on the ROI of the bordered
+// image, reads the same ones.
+struct BorderedFrame {
+    cv::Mat bordered, src, dst;
+    BorderedFrame(ZeliSize s, int srcType, int dstType, int border)
+        : bordered(s.height + 2 * border, s.width + 2 * border, srcType), dst(s.height, s.width, dstType) {
+        cv::randu(bordered, 0, 255);
+        src = bordered(cv::Rect(border, border, s.width, s.height));
+    }
+    template <class T>
+    const T* in() const { return src.ptr<T>(); }
+    template <class T>
+    T* out() { return dst.ptr<T>(); }
+    int inStep() const { return static_cast<int>(src.step); }
+    int outStep() const { return static_cast<int>(dst.step); }
+};
+
 // A memcpy moving as many bytes as an operation that reads and writes
 // `bytesPerPixel` bytes per pixel in all (half of them copied, half written):
 // the bandwidth bound of a pixelwise operation, reported beside it.

@@ -396,6 +396,34 @@ int main(int argc, char** argv) {
         save("motion_blur.png", streaked, streakedStep, size, 3);
         zeliFree(streaked);
         zeliFree(embossed);
+    /* Morphology: an opening of the thresholded picture, an erosion and
+       then a dilation with the same 5x5 disc, removes the bright specks
+       and threads narrower than the disc and keeps the larger shapes as
+       they were. */
+    {
+        static const Zel8u disc[25] = {0, 1, 1, 1, 0, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0, 1, 1, 1, 0};
+        const ZeliSize discSize = {5, 5};
+        const ZeliPoint centre = {2, 2};
+        const ZeliSize padded = {size.width + 4, size.height + 4};
+        int paddedStep = 0, erodedStep = 0, openedStep = 0;
+        Zel8u* cutPadded = zeliMalloc_8u_C1(padded.width, padded.height, &paddedStep);
+        Zel8u* eroded = zeliMalloc_8u_C1(padded.width, padded.height, &erodedStep);
+        Zel8u* opened = zeliMalloc_8u_C1(size.width, size.height, &openedStep);
+        if (!cutPadded || !eroded || !opened) return 1;
+        Zel8u* cutInside = cutPadded + 2 * paddedStep + 2;
+        Zel8u* erodedInside = eroded + 2 * erodedStep + 2;
+        STEP("Copy_8u_C1R: the thresholded picture inside a larger one",
+             zeliCopy_8u_C1R(cut, cutStep, cutInside, paddedStep, size));
+        replicateBorder(cutInside, paddedStep, size, 2, 1);
+        STEP("Erode_8u_C1R: 5x5 disc",
+             zeliErode_8u_C1R(cutInside, paddedStep, erodedInside, erodedStep, size, disc, discSize, centre));
+        replicateBorder(erodedInside, erodedStep, size, 2, 1);
+        STEP("Dilate_8u_C1R: 5x5 disc, completing the opening",
+             zeliDilate_8u_C1R(erodedInside, erodedStep, opened, openedStep, size, disc, discSize, centre));
+        save("opened.png", opened, openedStep, size, 1);
+        zeliFree(opened);
+        zeliFree(eroded);
+        zeliFree(cutPadded);
     }
 
     zeliFree(brighter);

@@ -977,6 +977,307 @@ ZELAPI ZelStatus zeliDecimateFilterRow_8u_C1R(const Zel8u* pSrc, int srcStep, Ze
 ZELAPI ZelStatus zeliDecimateFilterColumn_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
     ZeliSize roi, int factor);
 
+/* ==== Minimum and maximum filters ======================================= */
+/* FilterMin, FilterMax: destination pixel (x, y) is the smallest or largest
+   value of each channel over the rectangular window of maskSize pixels whose
+   element anchor lies over source pixel (x, y): source columns
+   x - anchor.x .. x - anchor.x + maskSize.width - 1 and rows
+   y - anchor.y .. y - anchor.y + maskSize.height - 1 (not mirrored; every
+   window pixel counts; even sides are allowed). The caller provides the
+   source pixels the window reaches around the ROI. A 1x1 mask copies the
+   ROI (zeliCopy). C3 and C4 filter every channel; AC4 the three colour
+   channels, leaving the destination alpha unwritten. 32f follows the
+   ordinary order of floats: -0 and +0 compare equal and either may come
+   out, the same one on every processor (NaN sources give unspecified
+   values). The cost per pixel does not grow with the window's height and
+   grows with the logarithm of its width. The filters run on the calling
+   thread.
+
+   Checks, in order: pSrc or pDst null (zelStatusNullPtr), ROI width or
+   height below 1 (zelStatusBadSize), srcStep or dstStep below 1
+   (zelStatusBadStep; a step shorter than a row is not detected), mask width
+   or height below 1 (zelStatusBadMaskSize), anchor outside the mask
+   (zelStatusBadAnchor), scratch rows not obtainable (zelStatusNoMemory).
+   Nothing is written on an error. */
+ZELAPI ZelStatus zeliFilterMin_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMin_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16s_C1R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16s_C3R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16s_C4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_16s_AC4R(const Zel16s* pSrc, int srcStep, Zel16s* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliFilterMax_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
+
+/* ==== Morphology ========================================================= */
+/* Dilate3x3, Erode3x3, Dilate, Erode: destination pixel (x, y) is the
+   largest (dilation) or smallest (erosion) value of each channel over the
+   source pixels under a structuring element. 3x3: the square of source
+   columns x-1..x+1, rows y-1..y+1. Dilate and Erode: pMask is a dense
+   maskSize.width x maskSize.height array of bytes, top row first, whose
+   non-zero bytes are the members (1 and 255 mean the same); the member in
+   mask row i, column j covers source pixel (x - anchor.x + j,
+   y - anchor.y + i): the mask is not mirrored. The caller provides the
+   source pixels the element reaches around the ROI; they are read, never
+   written. 8u and 16u compare as unsigned integers, 32f in the ordinary
+   order of floats (-0 and +0 are equal and either may come out, the same
+   one on every processor and for any thread count). C3 and C4 work every
+   channel; AC4 the colour channels, leaving the destination alpha (in
+   place: the image's alpha) as it was.
+
+   In-place members (IR) give exactly the out-of-place result of the image
+   as it was before the call: result rows are held back until no later
+   window reads the rows they replace; they run on the calling thread. The
+   out-of-place members split large images into bands of rows for the
+   library's threads. Cost per pixel: rectangular elements (also any mask
+   whose members fill their bounding rectangle) do not grow with the
+   element's height and grow with the logarithm of its width; other masks
+   cost one vector operation per member.
+
+   Checks, in this order (the step before the size): a null pointer
+   (zelStatusNullPtr); a step below 1 (zelStatusBadStep); ROI width or
+   height below 1 (zelStatusBadSize); mask width or height below 1
+   (zelStatusBadMaskSize), no non-zero mask byte (zelStatusZeroMask), anchor
+   outside the mask (zelStatusBadAnchor); a source step shorter than
+   roi.width + mask width - 1 pixels (3x3: roi.width + 2) or a destination
+   step shorter than roi.width pixels (zelStatusStepTooSmall); work buffers
+   not obtainable (zelStatusNoMemory). Nothing is written on an error. */
+ZELAPI ZelStatus zeliDilate3x3_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliDilate3x3_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_C4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_C4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_C4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi);
+ZELAPI ZelStatus zeliErode3x3_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi);
+ZELAPI ZelStatus zeliDilate_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliDilate_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_C1IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_C3IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_C4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_AC4R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_8u_AC4IR(Zel8u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_C1R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_C1IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_C3R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_C3IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_C4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_AC4R(const Zel16u* pSrc, int srcStep, Zel16u* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_16u_AC4IR(Zel16u* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_C1R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_C1IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_C3R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_C3IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_C4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel32f* pDst, int dstStep,
+    ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+ZELAPI ZelStatus zeliErode_32f_AC4IR(Zel32f* pSrcDst, int srcDstStep, ZeliSize roi,
+    const Zel8u* pMask, ZeliSize maskSize, ZeliPoint anchor);
+
 #ifdef __cplusplus
 }
 #endif

@@ -120,6 +120,11 @@ for fam in ('Convert', 'Scale'):
 NO_STEP_CHECK = ('zeliConvert_8u1u_C1R',)
 # Scale's range: a valid one (the empty range is tested by the family's tests).
 RANGE_VALUES = {'vMin': '-10.0f', 'vMax': '300.0f'}
+# Minimum and maximum filters and morphology check their steps; the
+# morphology masks (pMask) are dense byte arrays without a step.
+MORPHOLOGY = ('Dilate', 'Erode', 'Dilate3x3', 'Erode3x3')
+for fam in ('FilterMin', 'FilterMax') + MORPHOLOGY:
+    STEP_CHECKS[fam] = lambda t, lay: True
 
 # The library frame: functions without image operands.
 FRAME = [
@@ -197,6 +202,10 @@ def image_entry(name, params):
     kernel_args = divisor = factor = False
     for ptype, pname, arr in params:
         base = pname
+        if base == 'pMask' and family in MORPHOLOGY:
+            args.append('c.morphMask()')
+            nulls.append('{"pMask", -7, -1}')
+            continue
         if base in STEP_OF:
             idx = len(ops)
             is_dst = base in ('pDst', 'pSrcDst')
@@ -302,6 +311,10 @@ def image_entry(name, params):
         elif pname == 'weight' and ptype == 'int':
             args.append('c.weight')
             mask = 'MaskCheck::weight'
+        elif pname == 'maskSize' and ptype == 'ZeliSize':
+            args.append('c.maskSize')
+        elif pname == 'anchor' and ptype == 'ZeliPoint':
+            args.append('c.anchor')
         elif pname == 'flags' and ptype == 'int':
             args.append('c.flags')
         elif pname in LIMIT_SLOTS and arr is not None:

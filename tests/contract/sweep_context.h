@@ -11,8 +11,8 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 #include <array>
+#include <cmath>
 #include <climits>
 #include <cstdint>
 #include <cstring>
@@ -140,8 +140,11 @@ public:
     bool crossThresholds = false;  // thresholdGT below thresholdLT in channel 0
     int bitSize = 7;               // palettes
     int alphaValue = 200;          // palettes from three channels to four
+    // Window filters and morphology: the window or mask size, its anchor,
+    // and the morphology mask's bytes (maskSize.width x maskSize.height).
     ZeliSize maskSize{3, 3};
     ZeliPoint anchor{1, 1};
+    std::array<Zel8u, 25> maskBytes{};
     int weight = 1;
     int alphaType = 0;             // alpha compositing: zelCompositeOver ... PlusPremultiplied
     // User-kernel filters: kernel extent, anchor (inside or just outside),
@@ -183,6 +186,8 @@ public:
         factor = 1;
         zeroKernel = false;
         for (int k = 0; k < kKernelElements; ++k) kernelValues_[k] = (k * 7) % 9 - 3;
+        maskBytes.fill(0);
+        for (int k : {1, 3, 4, 5, 7}) maskBytes[k] = 1;  // a cross
         outByte_ = outBefore_ = 0xa5;
         std::memset(outStore_, 0xa5, sizeof outStore_);
         nullOperand_ = nullPlane_ = -100;
@@ -257,6 +262,13 @@ public:
         static constexpr int kDivisors[] = {1, 2, 4, 16, 3, 7, -1, -5};
         divisor = kDivisors[rng() % std::size(kDivisors)];
         for (int& v : kernelValues_) v = std::uniform_int_distribution<int>(-3, 6)(rng);
+        if (entry_->maskCheck != MaskCheck::oddRect) {  // medians keep odd windows
+            maskSize = {std::uniform_int_distribution<int>(1, 5)(rng), std::uniform_int_distribution<int>(1, 5)(rng)};
+            anchor = {std::uniform_int_distribution<int>(0, maskSize.width - 1)(rng),
+                      std::uniform_int_distribution<int>(0, maskSize.height - 1)(rng)};
+        }
+        for (auto& b : maskBytes) b = rng() % 3 == 0 ? 0 : static_cast<Zel8u>(rng());
+        maskBytes[rng() % (maskSize.width * maskSize.height)] = 1;  // never without a member
         static constexpr float kEps[] = {0.f, 0.125f, 1.f, 30.f, 1000.f, 1e30f};
         eps = kEps[rng() % std::size(kEps)];
         if (entry_->orderLength > 0) {
@@ -393,6 +405,7 @@ public:
     int rowKernelLength() const { return zeroKernel ? 0 : fittingWidth(); }
     int columnKernelLength() const { return zeroKernel ? 0 : kernelH; }
     Zel8u* workBuffer() { return nullOperand_ == -6 ? nullptr : workBuffer_.data(); }
+    const Zel8u* morphMask() const { return nullOperand_ == -7 ? nullptr : maskBytes.data(); }
     const int* order() const { return nullOperand_ == -3 ? nullptr : order_.data(); }
 
     // Breaking one argument.
@@ -486,6 +499,9 @@ public:
         else if (entry_->maskCheck == MaskCheck::weight) s += " weight " + std::to_string(weight);
         else if (entry_->maskCheck != MaskCheck::none) s += " mask " + std::to_string(mask);
         if (std::strncmp(entry_->family, "AlphaComp", 9) == 0) s += " alphaType " + std::to_string(alphaType);
+        if (entry_->maskCheck != MaskCheck::oddRect)
+            s += " maskSize " + std::to_string(maskSize.width) + "x" + std::to_string(maskSize.height) + " anchor " +
+                 std::to_string(anchor.x) + "," + std::to_string(anchor.y);
         if (entry_->orderLength > 0) {
             s += " order";
             for (int k = 0; k < entry_->orderLength; ++k) s += " " + std::to_string(order_[k]);

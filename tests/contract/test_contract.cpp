@@ -56,6 +56,17 @@ Geometry geometryFor(const CallEntry& e) {
     return g;
 }
 
+// Families with a window or mask size and an anchor, and the morphology
+// families, whose source step must hold the ROI row and the element's reach.
+bool takesWindow(const CallEntry& e) {
+    static const std::set<std::string> families = {"FilterMin", "FilterMax", "Dilate", "Erode"};
+    return families.count(e.family) > 0;
+}
+bool isMorphology(const CallEntry& e) {
+    static const std::set<std::string> families = {"Dilate", "Erode", "Dilate3x3", "Erode3x3"};
+    return families.count(e.family) > 0;
+}
+
 // One broken argument and the status the header promises for it.
 struct Breakage {
     std::string what;
@@ -99,6 +110,25 @@ std::vector<Breakage> breakagesOf(const CallEntry& e, const Geometry& g) {
             list.push_back({name + " negative", zelStatusBadStep,
                             [op](SweepContext& c) { c.setStep(op, -c.naturalStep(op)); }});
         }
+    }
+    if (takesWindow(e)) {
+        list.push_back({"maskSize 0x3", zelStatusBadMaskSize, [](SweepContext& c) { c.maskSize = {0, 3}; }});
+        list.push_back({"maskSize 3x-1", zelStatusBadMaskSize, [](SweepContext& c) { c.maskSize = {3, -1}; }});
+        list.push_back({"anchor at the mask width", zelStatusBadAnchor,
+                        [](SweepContext& c) { c.anchor = {c.maskSize.width, 0}; }});
+        list.push_back({"anchor y -1", zelStatusBadAnchor, [](SweepContext& c) { c.anchor = {0, -1}; }});
+    }
+    if (isMorphology(e)) {
+        if (std::string(e.family).find("3x3") == std::string::npos)
+            list.push_back({"mask without a member", zelStatusZeroMask, [](SweepContext& c) { c.maskBytes.fill(0); }});
+        // One byte short of the ROI row and the element's reach.
+        const int op = e.steps[0];
+        const int pixel = e.ops[op].elemBytes * e.ops[op].channels;
+        const bool square = !takesWindow(e);
+        list.push_back({"step one byte short", zelStatusStepTooSmall, [op, pixel, square](SweepContext& c) {
+                            const int width = square ? 3 : c.maskSize.width;
+                            c.setStep(op, (c.roi.width + width - 1) * pixel - 1);
+                        }});
     }
     if (e.hasRndMode)
         for (int mode : {3, -1, 1000})
@@ -522,7 +552,8 @@ TEST(ContractSweep, RandomArgumentSets) {
         if (e.squareRoi) g.roi.height = g.roi.width;
         g.padElements = std::uniform_int_distribution<int>(0, 40)(rng);
         g.offsetElements = std::uniform_int_distribution<int>(0, 31)(rng);
-        g.tight = rng() % 4 == 0;
+        // Morphology needs room for the element's reach in every row.
+        g.tight = rng() % 4 == 0 && !isMorphology(e);
         // Families that trust their steps walk a negative step upwards.
         const bool upward = !e.checksSteps && std::string(e.family) != "Transpose" && !rowOrderMatters(e) &&
                             rng() % 3 == 0;
