@@ -250,6 +250,7 @@ int main(int argc, char** argv) {
         save("clipped.png", clipped, clippedStep, size, 3);
         zeliFree(clipped);
     }
+
     /* Look-up tables: an S-shaped tone curve through five points (shadows
        darker, highlights brighter), the same for the three channels, and a
        warmer one that lifts red and lowers blue. */
@@ -272,6 +273,9 @@ int main(int argc, char** argv) {
              zeliLUT_Cubic_8u_C3IR(toned, tonedStep, size, warmValues, sameLevels, counts));
         save("tone_warm.png", toned, tonedStep, size, 3);
         zeliFree(toned);
+    }
+
+    {
         /* Median denoise: salt-and-pepper noise on a copy of the picture
            (one pixel in twelve black or white, from a fixed pseudo-random
            sequence), a replicated 1-pixel border, then the 3x3 median. */
@@ -296,6 +300,8 @@ int main(int argc, char** argv) {
         save("denoised.png", clean, cleanStep, size, 3);
         zeliFree(clean);
         zeliFree(noisy);
+    }
+
     /* Conversions: the picture to 32f, a gamma-like brightening in floating
        point (x * x / 255 mixed with x), and back to 8u with each rounding
        mode; then a 1-bit dithered copy of the green channel, unpacked. */
@@ -377,6 +383,7 @@ int main(int argc, char** argv) {
         zeliFree(stripes);
         zeliFree(picture);
     }
+
     /* User kernels on the bordered picture: an emboss (a true convolution,
        so the kernel is mirrored over the picture: light seems to come from
        the lower right) and a horizontal motion blur of five pixels. */
@@ -396,6 +403,8 @@ int main(int argc, char** argv) {
         save("motion_blur.png", streaked, streakedStep, size, 3);
         zeliFree(streaked);
         zeliFree(embossed);
+    }
+
     /* Morphology: an opening of the thresholded picture, an erosion and
        then a dilation with the same 5x5 disc, removes the bright specks
        and threads narrower than the disc and keeps the larger shapes as

@@ -437,9 +437,8 @@ ZELAPI ZelStatus zeliFilterSharpen_32f_AC4R(const Zel32f* pSrc, int srcStep, Zel
    1 x 3 and 1 x 5 masks are FilterMedianHoriz and FilterMedianVert on the
    window's centre. 3 x 3, 5 x 5 and 7 x 7 masks sort columns once and
    select through a fixed network; the 8u members of other sizes keep a
-   running histogram along each row. The 16u and 16s members, and the 8u C4
-   and AC4 members, share the rows of masks other than 3 x 3, 5 x 5 and the
-   one-dimensional ones among threads. */
+   running histogram along each row. Large images share their rows among
+   threads (every median filter does; results never depend on it). */
 ZELAPI ZelStatus zeliFilterMedian_8u_C1R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
     ZeliSize roi, ZeliSize maskSize, ZeliPoint anchor);
 ZELAPI ZelStatus zeliFilterMedian_8u_C3R(const Zel8u* pSrc, int srcStep, Zel8u* pDst, int dstStep,
@@ -990,8 +989,8 @@ ZELAPI ZelStatus zeliDecimateFilterColumn_8u_C1R(const Zel8u* pSrc, int srcStep,
    ordinary order of floats: -0 and +0 compare equal and either may come
    out, the same one on every processor (NaN sources give unspecified
    values). The cost per pixel does not grow with the window's height and
-   grows with the logarithm of its width. The filters run on the calling
-   thread.
+   grows with the logarithm of its width. Large images share their rows
+   among threads; results never depend on it.
 
    Checks, in order: pSrc or pDst null (zelStatusNullPtr), ROI width or
    height below 1 (zelStatusBadSize), srcStep or dstStep below 1

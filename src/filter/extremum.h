@@ -40,17 +40,16 @@ struct WindowPlan {
 WindowPlan planRect(WindowKernel kernel, int width, int height, int channels, int elementBytes);
 
 // Runs a plan over the ROI. `origin` is the top-left pixel of the first
-// destination pixel's window. With `fork` the rows go to a team in bands
-// (the fork rule of the library); otherwise the calling thread works them.
+// destination pixel's window. Rows go to a team in bands under the fork
+// rule of the library.
 template <class T, Layout L>
-ZelStatus runWindow(const WindowPlan& plan, const T* origin, int srcStep, T* dst, int dstStep, ZeliSize roi,
-                    bool fork) {
+ZelStatus runWindow(const WindowPlan& plan, const T* origin, int srcStep, T* dst, int dstStep, ZeliSize roi) {
     constexpr int C = kChannels<L>;
     constexpr std::ptrdiff_t kGrain = 256;  // elements: whole vectors of whole AC4 pixels
     const std::ptrdiff_t n = std::ptrdiff_t{roi.width} * C;
     const std::int64_t touched = std::int64_t{2} * sizeof(T) * n * roi.height;
     const int cost = plan.window.runs != nullptr && plan.window.runCount > 3 ? kCostComplexDivide : kCostDivide;
-    const int team = fork ? teamSize(touched, cost, pieceCount(roi.height, n, kGrain)) : 1;
+    const int team = teamSize(touched, cost, pieceCount(roi.height, n, kGrain));
     const std::size_t perThread = (static_cast<std::size_t>(plan.scratchElements) * sizeof(T) + 64) / 64 * 64;
     Buffer<std::uint8_t> scratch = allocBuffer<std::uint8_t>(perThread * team);
     if (!scratch) return zelStatusNoMemory;

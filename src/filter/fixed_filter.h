@@ -37,7 +37,6 @@ struct Plan {
     std::ptrdiff_t fixedElements, elementsPerChannel;
     int laneBytes;
     bool floatMath;
-    bool callingThread = false;
 };
 
 // 32f kernels, and the divisions of 32-bit integer sums (through a
@@ -95,8 +94,7 @@ ZelStatus runPlan(const Plan& plan, const S* src, int srcStep, D* dst, int dstSt
     constexpr std::ptrdiff_t kGrain = 256;  // elements: whole vectors of whole AC4 pixels
     const std::ptrdiff_t n = std::ptrdiff_t{roi.width} * C;
     const std::int64_t touched = (std::int64_t{sizeof(S)} + sizeof(D)) * n * roi.height;
-    const int team =
-        plan.callingThread ? 1 : teamSize(touched, forkCost(plan.radius), pieceCount(roi.height, n, kGrain));
+    const int team = teamSize(touched, forkCost(plan.radius), pieceCount(roi.height, n, kGrain));
 
     // Scratch for each thread, on its own cache lines.
     const std::size_t perThread =

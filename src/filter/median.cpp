@@ -162,8 +162,7 @@ void histogram16MedianBlock(const T* src, int srcStep, T* dst, int dstStep, cons
 }
 
 // The general kernel over the ROI; `src` addresses the window's top-left
-// corner. The 16-bit members and the four-channel 8u members share their
-// rows among threads, the others run on the calling thread.
+// corner.
 template <class T, Layout L>
 ZelStatus generalMedian(const T* src, int srcStep, T* dst, int dstStep, ZeliSize roi, ZeliSize mask) {
     constexpr int C = kChannels<L>;
@@ -176,8 +175,7 @@ ZelStatus generalMedian(const T* src, int srcStep, T* dst, int dstStep, ZeliSize
     const std::int64_t perElement = kByte ? 2 * std::int64_t{mask.height} : std::min<std::int64_t>(count, 256);
     const double work = 2.0 * sizeof(T) * static_cast<double>(n) * roi.height * static_cast<double>(perElement);
     const std::int64_t touched = static_cast<std::int64_t>(std::min(work, 0x1p50));
-    const bool threaded = !kByte || C == 4;
-    const int team = threaded ? teamSize(touched, kCostHistogram, pieceCount(roi.height, n, kGrain)) : 1;
+    const int team = teamSize(touched, kCostHistogram, pieceCount(roi.height, n, kGrain));
     // 16-bit: a window buffer per thread, or the fine histogram. No window
     // of 2^40 values can be worked (nor read).
     if (!kByte && count >= (std::int64_t{1} << 40)) return zelStatusNoMemory;
@@ -231,13 +229,8 @@ ZelStatus filterMedian(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSiz
         return runPlan<T, T, L>(squareMedianPlan<1, T, kKeepAlpha>(), centred, srcStep, pDst, dstStep, roi);
     if (w == 5 && h == 5)
         return runPlan<T, T, L>(squareMedianPlan<2, T, kKeepAlpha>(), centred, srcStep, pDst, dstStep, roi);
-    if (w == 7 && h == 7) {
-        // The square network gives the general kernel's results, faster;
-        // it shares its rows among threads where the general kernel would.
-        Plan plan = squareMedianPlan<3, T, kKeepAlpha>();
-        plan.callingThread = sizeof(T) == 1 && C != 4;
-        return runPlan<T, T, L>(plan, centred, srcStep, pDst, dstStep, roi);
-    }
+    if (w == 7 && h == 7)  // the general kernel's results, faster
+        return runPlan<T, T, L>(squareMedianPlan<3, T, kKeepAlpha>(), centred, srcStep, pDst, dstStep, roi);
     const T* corner = byteOffset(pSrc, -std::ptrdiff_t{srcStep} * anchor.y) - std::ptrdiff_t{anchor.x} * C;
     return generalMedian<T, L>(corner, srcStep, pDst, dstStep, roi, mask);
 }

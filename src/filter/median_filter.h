@@ -14,7 +14,7 @@ namespace zel::filter {
 // The tap kernels need no scratch; the frame's allocation is one element.
 template <class Shape, class T, bool KeepAlpha>
 Plan tapMedianPlan() {
-    return Plan{ZEL_DISPATCH(TapMedianBlock<Shape, T, KeepAlpha>), Shape::kRadius, 1, 0, sizeof(T), false, true};
+    return Plan{ZEL_DISPATCH(TapMedianBlock<Shape, T, KeepAlpha>), Shape::kRadius, 1, 0, sizeof(T), false};
 }
 
 // Scratch: 2R+1 rows of sorted columns, each a chunk plus the R pixels
@@ -22,8 +22,7 @@ Plan tapMedianPlan() {
 template <int R, class T, bool KeepAlpha>
 Plan squareMedianPlan() {
     constexpr int K = 2 * R + 1;
-    return Plan{ZEL_DISPATCH(SquareMedianBlock<R, T, KeepAlpha>), R, K * kMedianChunk, K * 2 * R, sizeof(T), false,
-                true};
+    return Plan{ZEL_DISPATCH(SquareMedianBlock<R, T, KeepAlpha>), R, K * kMedianChunk, K * 2 * R, sizeof(T), false};
 }
 
 // A member with a mask code: code3 selects Shape3, code5 Shape5, anything

@@ -29,7 +29,7 @@ ZelStatus filterExtremum(CopyFn<T> copy, const T* pSrc, int srcStep, T* pDst, in
     const WindowPlan plan = planRect(rectKernel<T, IsMax, L == Layout::AC4>(), maskSize.width, maskSize.height, C,
                                      sizeof(T));
     const T* origin = rowAt(pSrc, srcStep, -std::ptrdiff_t{anchor.y}) - std::ptrdiff_t{anchor.x} * C;
-    return runWindow<T, L>(plan, origin, srcStep, pDst, dstStep, roi, false);
+    return runWindow<T, L>(plan, origin, srcStep, pDst, dstStep, roi);
 }
 
 }  // namespace

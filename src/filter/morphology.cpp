@@ -36,7 +36,7 @@ ZelStatus morph3x3(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize ro
                            .that(stepsHold<T, L>(srcStep, dstStep, roi, 3), zelStatusStepTooSmall))
         return st;
     const T* origin = rowAt(pSrc, srcStep, -1) - kChannels<L>;
-    return runWindow<T, L>(plan3x3<T, L, IsMax>(), origin, srcStep, pDst, dstStep, roi, true);
+    return runWindow<T, L>(plan3x3<T, L, IsMax>(), origin, srcStep, pDst, dstStep, roi);
 }
 
 template <class T, Layout L, bool IsMax>
@@ -122,7 +122,7 @@ ZelStatus morph(const T* pSrc, int srcStep, T* pDst, int dstStep, ZeliSize roi, 
         return st;
     const T* origin = rowAt(pSrc, srcStep, std::ptrdiff_t{e.top} - anchor.y) +
                       (std::ptrdiff_t{e.left} - anchor.x) * kChannels<L>;
-    return runWindow<T, L>(planOf<T, L, IsMax>(e), origin, srcStep, pDst, dstStep, roi, true);
+    return runWindow<T, L>(planOf<T, L, IsMax>(e), origin, srcStep, pDst, dstStep, roi);
 }
 
 template <class T, Layout L, bool IsMax>
