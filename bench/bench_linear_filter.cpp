@@ -16,23 +16,14 @@ using zel::bench::registerSized;
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 constexpr int kBorder = 5;
 
-struct Frame {
-    cv::Mat bordered, src, dst, kernel, mirrored;
-    Frame(ZeliSize s, int type, int kw, int kh)
-        : bordered(s.height + 2 * kBorder, s.width + 2 * kBorder, type), dst(s.height, s.width, type),
-          kernel(kh, kw, CV_32F) {
-        cv::randu(bordered, 0, 255);
-        src = bordered(cv::Rect(kBorder, kBorder, s.width, s.height));
+// The bordered frame with a random kernel (and its mirror for OpenCV).
+struct Frame : zel::bench::BorderedFrame {
+    cv::Mat kernel, mirrored;
+    Frame(ZeliSize s, int type, int kw, int kh) : BorderedFrame(s, type, type, kBorder), kernel(kh, kw, CV_32F) {
         cv::randu(kernel, -1.0f, 1.0f);
         kernel /= static_cast<float>(kw * kh);
         cv::flip(kernel, mirrored, -1);
     }
-    template <class T>
-    const T* in() const { return src.ptr<T>(); }
-    template <class T>
-    T* out() { return dst.ptr<T>(); }
-    int inStep() const { return static_cast<int>(src.step); }
-    int outStep() const { return static_cast<int>(dst.step); }
     const float* taps() const { return kernel.ptr<float>(); }
 };
 

@@ -19,6 +19,7 @@
 #include <hwy/foreach_target.h>  // IWYU pragma: keep
 #include <hwy/highway.h>
 
+#include "core/interleaved-inl.h"
 #include "core/store_under_mask-inl.h"
 #include "data/pixel_stores-inl.h"
 
@@ -39,28 +40,6 @@ namespace hn = hwy::HWY_NAMESPACE;
 // more than they save on these memory-bound moves.
 template <class B>
 using PixelTag = hn::CappedTag<B, 32 / sizeof(B)>;
-
-template <int C, class D>
-HWY_INLINE void LoadPixels(D d, const hn::TFromD<D>* HWY_RESTRICT p, hn::Vec<D>* v) {
-    if constexpr (C == 1) {
-        v[0] = hn::LoadU(d, p);
-    } else if constexpr (C == 3) {
-        hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-    } else {
-        hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-    }
-}
-
-template <int C, class D>
-HWY_INLINE void StorePixels(D d, const hn::Vec<D>* v, hn::TFromD<D>* HWY_RESTRICT p) {
-    if constexpr (C == 1) {
-        hn::StoreU(v[0], d, p);
-    } else if constexpr (C == 3) {
-        hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
-    } else {
-        hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, p);
-    }
-}
 
 template <class Order>
 constexpr bool kIsFixed = !std::is_same_v<Order, RuntimeOrder>;

@@ -1,5 +1,5 @@
-// Per-target helpers of the statistics kernels: loading whole pixels split
-// into one vector per channel, and adding the lanes of a vector.
+// Per-target helpers of the statistics kernels: adding the lanes of a
+// vector (whole pixels are loaded by LoadPixels of core/interleaved-inl.h).
 // Per-target header (include it after hwy/highway.h, like Highway's own
 // -inl files).
 #if defined(ZEL_STATS_CHANNELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
@@ -11,6 +11,8 @@
 
 #include <hwy/highway.h>
 
+#include "core/interleaved-inl.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -18,19 +20,6 @@ HWY_BEFORE_NAMESPACE();
 namespace zel {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
-
-// Loads Lanes(d) pixels of C interleaved channels from p: v[c] holds
-// channel c of every pixel, in pixel order.
-template <int C, class D, class V>
-HWY_INLINE void LoadChannels(D d, const hn::TFromD<D>* HWY_RESTRICT p, V* v) {
-    if constexpr (C == 1) {
-        v[0] = hn::LoadU(d, p);
-    } else if constexpr (C == 3) {
-        hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-    } else {
-        hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-    }
-}
 
 // The sum of the lanes of a vector of 64-bit counters.
 template <class D, class V>

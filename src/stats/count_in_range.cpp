@@ -44,7 +44,7 @@ void CountRow(const T* HWY_RESTRICT row, std::ptrdiff_t pixels, int computed, co
             for (int c = 0; c < C; ++c) acc[c] = hn::Zero(d);
             for (int i = 0; i < 255 && vectorPixels - x >= lanes; ++i, x += lanes) {
                 V v[C];
-                LoadChannels<C>(d, row + x * C, v);
+                LoadPixels<C>(d, row + x * C, v);
                 for (int c = 0; c < C; ++c) {
                     const auto inside = hn::Eq(hn::Min(hn::Max(v[c], loV[c]), hiV[c]), v[c]);
                     acc[c] = hn::Sub(acc[c], hn::VecFromMask(d, inside));
@@ -60,7 +60,7 @@ void CountRow(const T* HWY_RESTRICT row, std::ptrdiff_t pixels, int computed, co
         for (int c = 0; c < C; ++c) acc[c] = hn::Zero(du);
         for (; vectorPixels - x >= lanes; x += lanes) {
             V v[C];
-            LoadChannels<C>(d, row + x * C, v);
+            LoadPixels<C>(d, row + x * C, v);
             for (int c = 0; c < C; ++c) {
                 const auto inside = hn::And(hn::Le(loV[c], v[c]), hn::Le(v[c], hiV[c]));
                 acc[c] = hn::Sub(acc[c], hn::BitCast(du, hn::VecFromMask(d, inside)));

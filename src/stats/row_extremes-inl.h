@@ -51,7 +51,7 @@ void RowExtremes(const T* base, int step, std::ptrdiff_t rows, std::ptrdiff_t pi
             const T* HWY_RESTRICT row = rowAt(base, step, y);
             for (std::ptrdiff_t x = 0; x < vectorEnd; x += lanes) {
                 V v[C];
-                LoadChannels<C>(d, row + x * C, v);
+                LoadPixels<C>(d, row + x * C, v);
                 for (int c = 0; c < C; ++c) {
                     if constexpr (std::is_same_v<T, float>) {
                         const auto bits = hn::BitCast(di, v[c]);

@@ -49,7 +49,7 @@ void SumRowInt(const T* HWY_RESTRICT row, std::ptrdiff_t pixels, int computed, T
     if constexpr (sizeof(T) == 1) {
         for (; vectorPixels - x >= lanes; x += lanes) {
             V v[C];
-            LoadChannels<C>(d, row + x * C, v);
+            LoadPixels<C>(d, row + x * C, v);
             for (int c = 0; c < C; ++c) acc64[c] = hn::Add(acc64[c], hn::SumsOf8(v[c]));  // 8u is never flipped
         }
     } else {
@@ -64,7 +64,7 @@ void SumRowInt(const T* HWY_RESTRICT row, std::ptrdiff_t pixels, int computed, T
             for (int c = 0; c < C; ++c) acc32[c] = hn::Zero(d32);
             for (std::ptrdiff_t i = 0; i < kChunk && vectorPixels - x >= lanes; ++i, x += lanes) {
                 V v[C];
-                LoadChannels<C>(d, row + x * C, v);
+                LoadPixels<C>(d, row + x * C, v);
                 for (int c = 0; c < C; ++c) {
                     const V32 w = hn::BitCast(d32, hn::Xor(v[c], flipV));
                     acc32[c] = hn::Add(acc32[c], hn::Add(hn::And(w, low16), hn::ShiftRight<16>(w)));
