@@ -168,7 +168,7 @@ TEST(Convert, FloatMembersClampAndRoundByMode) {
                                    return Zel##d(r - bias);                                          \
                                });
 #define SCALE_DOWN(st, lay, ch, alpha)                                                                  \
-    for (int hint : {0, 1, 2, 5})                                                                       \
+    for (int hint : {0, 1, 2, 3})                                                                       \
         checkMember<Zel##st, Zel8u>("Scale_" #st "8u_" #lay " hint " + std::to_string(hint), ch, alpha, \
                                     [hint](const Zel##st* a, int as, Zel8u* b, int bs, ZeliSize r) {    \
                                         return zeliScale_##st##8u_##lay##R(a, as, b, bs, r, ZelAccuracyHint(hint)); \

@@ -203,7 +203,7 @@ void checkShape(const Member& m, const Shape& shape, ZeliSize roi, std::uint32_t
                             << "pixel " << x << "," << y << " channel " << c << " outside the ROI changed";
                     }
         } else {
-            Image<T> dst(roi, m.channels, m.written, 2 * sizeof(T) + 1 - sizeof(T) % 2, 7, seed + 1);
+            Image<T> dst(roi, m.channels, m.written, 3 * sizeof(T), 7, seed + 1);
             ASSERT_EQ(m.call(&src.at(kBorder, kBorder), src.step(), dst.roi(), dst.step(), roi, mask.data(), maskSize,
                              shape.anchor),
                       zelStatusOk);
