@@ -332,8 +332,6 @@ def image_entry(name, params):
             args.append('c.out<%s>(%d)' % (ptype, slot))
             nulls.append('{"out %s", %d, -1}' % (pname, -30 - slot))
             out_value = True
-        elif pname == 'hint' and ptype == 'ZelAccuracyHint':
-            args.append('static_cast<ZelAccuracyHint>(c.flags)')
         elif pname == 'pThreshold' and ptype == 'Zel8u':
             args.append('c.outByte()')
             nulls.append('{"pThreshold", -4, -1}')
