@@ -12,20 +12,8 @@ namespace {
 
 using zel::bench::registerMemcpy;
 
-struct Images {
-    cv::Mat a, b, d;
-    Images(ZeliSize s, int cvType)
-        : a(s.height, s.width, cvType), b(s.height, s.width, cvType), d(s.height, s.width, cvType) {
-        cv::randu(a, 0, 60000);
-        cv::randu(b, 0, 60000);
-    }
-    template <class T>
-    const T* pa() const { return a.ptr<T>(); }
-    template <class T>
-    const T* pb() const { return b.ptr<T>(); }
-    template <class T>
-    T* pd() { return d.ptr<T>(); }
-    int step() const { return static_cast<int>(a.step); }
+struct Images : zel::bench::TwoOperands {
+    Images(ZeliSize s, int cvType) : TwoOperands(s, cvType, 60000) {}
 };
 
 template <class F>

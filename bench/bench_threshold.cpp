@@ -15,25 +15,13 @@
 
 namespace {
 
-
 const std::vector<ZeliSize> kSizes = {{1920, 1080}};
 
-struct Operands {
-    cv::Mat a, b, d, mask;
-    Operands(ZeliSize s, int cvType)
-        : a(s.height, s.width, cvType), b(s.height, s.width, cvType), d(s.height, s.width, cvType),
-          mask(s.height, s.width, CV_8UC1) {
-        cv::randu(a, 0, 256);
-        cv::randu(b, 0, 256);
-    }
-    template <class T>
-    const T* pa() const { return a.ptr<T>(); }
-    template <class T>
-    const T* pb() const { return b.ptr<T>(); }
-    template <class T>
-    T* pd() { return d.ptr<T>(); }
+// The two operands and a one-byte-per-pixel mask for the comparisons.
+struct Operands : zel::bench::TwoOperands {
+    cv::Mat mask;
+    Operands(ZeliSize s, int cvType) : TwoOperands(s, cvType, 256), mask(s.height, s.width, CV_8UC1) {}
     Zel8u* pm() { return mask.ptr<Zel8u>(); }
-    int step() const { return static_cast<int>(a.step); }
     int mstep() const { return static_cast<int>(mask.step); }
 };
 

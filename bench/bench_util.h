@@ -110,6 +110,24 @@ inline void registerMemcpy(const std::string& group, double bytesPerPixel,
     }, nullptr, sizes);
 }
 
+// Two random sources a and b with values in [0, maxValue) and a
+// destination d, all of one type and size.
+struct TwoOperands {
+    cv::Mat a, b, d;
+    TwoOperands(ZeliSize s, int cvType, double maxValue)
+        : a(s.height, s.width, cvType), b(s.height, s.width, cvType), d(s.height, s.width, cvType) {
+        cv::randu(a, 0, maxValue);
+        cv::randu(b, 0, maxValue);
+    }
+    template <class T>
+    const T* pa() const { return a.ptr<T>(); }
+    template <class T>
+    const T* pb() const { return b.ptr<T>(); }
+    template <class T>
+    T* pd() { return d.ptr<T>(); }
+    int step() const { return static_cast<int>(a.step); }
+};
+
 // Registers the benchmarks of one source file at start-up.
 struct Registration {
     explicit Registration(void (*registerAll)()) { registerAll(); }
